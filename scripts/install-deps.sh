@@ -1,0 +1,34 @@
+#!/usr/bin/env bash
+# Installs the Debian packages the build, the tests and the benchmarks need,
+# when any is missing. Safe to run again: it does nothing when all are there.
+set -euo pipefail
+
+packages=(
+  cmake g++ make pkg-config
+  libsqlite3-dev sqlite3
+  libpugixml-dev
+  qt6-base-dev qt6-base-dev-tools libgl-dev
+  libgtest-dev googletest
+  libbenchmark-dev
+  unrtf
+  adwaita-icon-theme hicolor-icon-theme
+  fonts-dejavu-core
+)
+
+missing=()
+for p in "${packages[@]}"; do
+  if ! dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q "install ok installed"; then
+    missing+=("$p")
+  fi
+done
+
+if [ ${#missing[@]} -eq 0 ]; then
+  exit 0
+fi
+
+echo "Installing: ${missing[*]}"
+SUDO=""
+if [ "$(id -u)" -ne 0 ]; then SUDO="sudo"; fi
+export DEBIAN_FRONTEND=noninteractive
+$SUDO apt-get update -qq
+$SUDO apt-get install -y -qq --no-install-recommends "${missing[@]}"

@@ -1,0 +1,19 @@
+#!/usr/bin/env bash
+# `make run`: opens the product on the embedded sample database, creating the
+# sample firm on first use. Without a display the window renders offscreen and
+# writes a screenshot.
+set -euo pipefail
+build=${1:-build}
+data=${QB_DATA_DIR:-$build/sample}
+db="$data/quillbox-sample.db"
+if [ ! -f "$db" ]; then
+  "$build/quillbox" init --db "$db" --sample
+fi
+if [ -x "$build/quillbox-desk" ]; then
+  if [ -z "${DISPLAY:-}" ] && [ -z "${WAYLAND_DISPLAY:-}" ]; then
+    export QT_QPA_PLATFORM=offscreen
+  fi
+  exec "$build/quillbox-desk" --db "$db"
+else
+  exec "$build/quillbox" describe --db "$db"
+fi

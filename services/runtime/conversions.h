@@ -1,0 +1,57 @@
+#pragma once
+// The run-time's conversions, with the platform's rules:
+//  - text converts to a number when it reads as one ("  12 ", "1.5", "-3",
+//    "1e3", "&H1F"); otherwise the conversion fails with a type mismatch;
+//  - conversion to an integer rounds half to even (banker's rounding) and a
+//    value outside the target's range fails with an overflow;
+//  - a number converts to Boolean as True when it is not zero; the texts
+//    "True" and "False" (any case) convert too;
+//  - Null converts to nothing: every conversion of Null fails with a type
+//    mismatch except CStr's caller-visible rule below;
+//  - Empty converts to 0, "" and False.
+// Failures are RuntimeError exceptions (errors/runtime_error.h).
+
+#include <cstdint>
+#include <string>
+
+#include "services/runtime/variant.h"
+
+namespace qb {
+
+// True when the value converts to a number: a number type, a Boolean, Empty,
+// or text that reads as a number. Null and Date-looking text are not numeric.
+bool IsNumeric(const Variant& value);
+
+// True for a Variant that is Null, Empty or a string with nothing in it.
+// The one blank test of the system. A string of blanks is not blank.
+bool isBlankValue(const Variant& value);
+
+bool CBool(const Variant& value);
+int16_t CInt(const Variant& value);
+int32_t CLng(const Variant& value);
+float CSng(const Variant& value);
+double CDbl(const Variant& value);
+// Dates convert from a Date, a number (the serial) or a text such as
+// "2026-11-23", "2026-11-23 14:05:00", "11/23/2026" or "Nov 23, 2026".
+double CDate(const Variant& value);
+// Text of the value as the platform writes it: numbers in their shortest form
+// ("1.5", "0", "1", "-2.25"), Booleans "True"/"False", dates as "m/d/yyyy" plus
+// " h:nn:ss AM" when there is a time part, Empty "". Null fails with a type
+// mismatch, as the platform's CStr does.
+std::string CStr(const Variant& value);
+// Like CStr, but Null gives "" (the plain conversion the system uses when it
+// shows a string column as it stands).
+std::string toText(const Variant& value);
+
+// Number to text as the platform writes it: "1.5", "0", "1", "-0.25",
+// "1E+16" for large values.
+std::string numberToText(double value);
+
+// Round half to even to the given number of decimals (the run-time's Round).
+// Round(2.5) is 2, Round(3.5) is 4, Round(1.5, 0) is 2, Round(1.005, 2) 1.
+double Round(double value, int decimals = 0);
+
+// Parses text as a number with the platform's rules; false when it is not one.
+bool parseNumber(const std::string& text, double& out);
+
+}  // namespace qb

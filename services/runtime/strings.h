@@ -1,0 +1,51 @@
+#pragma once
+// The run-time's string functions over UTF-8 text. Positions and lengths count
+// characters (code points), 1-based as the platform counts them: "«" is one
+// character. Case-insensitive comparison folds ASCII and Latin-1 letters
+// (é/É, ç/Ç, ...) without breaking multi-byte characters.
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace qb {
+
+enum class CompareMode { Binary, Text };
+
+// Number of characters (code points).
+int32_t Len(const std::string& text);
+std::string Left(const std::string& text, int32_t count);
+std::string Right(const std::string& text, int32_t count);
+// Mid(text, start) and Mid(text, start, count), start from 1.
+std::string Mid(const std::string& text, int32_t start, int32_t count = -1);
+
+std::string Trim(const std::string& text);   // cuts blanks (spaces) on both sides
+std::string LTrim(const std::string& text);
+std::string RTrim(const std::string& text);
+std::string UCase(const std::string& text);
+std::string LCase(const std::string& text);
+
+// Position (1-based, in characters) of find in text at or after start, 0 when
+// absent. An empty find gives start when start is within text.
+int32_t InStr(int32_t start, const std::string& text, const std::string& find,
+              CompareMode mode = CompareMode::Binary);
+inline int32_t InStr(const std::string& text, const std::string& find,
+                     CompareMode mode = CompareMode::Binary) {
+  return InStr(1, text, find, mode);
+}
+
+// Replaces every occurrence of find by replacement, left to right, without
+// rescanning the replacement.
+std::string Replace(const std::string& text, const std::string& find,
+                    const std::string& replacement, CompareMode mode = CompareMode::Binary);
+
+// Equal ignoring case (the Text compare of the platform).
+bool equalsText(const std::string& a, const std::string& b);
+
+std::vector<std::string> Split(const std::string& text, const std::string& delimiter);
+
+// Text in the Windows-1252 code page as RTF escapes: ASCII stays, every other
+// character becomes \'hh when code page 1252 has it, else \uN? (N signed 16-bit).
+std::string toRtfEscapes(const std::string& utf8);
+
+}  // namespace qb
