@@ -15,6 +15,7 @@
 #include <cstdint>
 #include <string>
 
+#include "services/errors/runtime_error.h"
 #include "services/runtime/variant.h"
 
 namespace qb {
@@ -73,6 +74,16 @@ class DatabaseReference {
   virtual bool setFieldValue(RecordsetHandle handle, const std::string& fieldName,
                              const std::string& value) = 0;
   virtual bool updateRecord(RecordsetHandle handle) = 0;
+
+  // Deletes the current row of a writable recordset (lockType 3) from its
+  // table and commits at once; true when a row was deleted. The position
+  // stays where it was, so a walk goes on with moveNextRecord; the deleted
+  // row reads no more (3021). Fails with err::kReadOnly on a read-only
+  // recordset and err::kNoCurrentRecord with no current row. This store
+  // refuses every delete; a store that deletes overrides it.
+  virtual bool deleteRecord(RecordsetHandle /*handle*/) {
+    throw RuntimeError(err::kReadOnly, "This store does not delete records.");
+  }
 
   // Positions on the first row whose field equals the value (numbers compare
   // by value, text ignoring case); true when found, else the position is past
