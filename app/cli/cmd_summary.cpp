@@ -1,0 +1,53 @@
+// quillbox summary: compose and store the RTF summary of a contact or a firm
+// employee.
+
+#include "app/cli/session.h"
+#include "render/mod_format_addresses.h"
+
+namespace qb::cli {
+namespace {
+
+int runSummary(Context& context) {
+  const Arguments& args = context.args;
+  if (!args.has("contact") && !args.has("employee")) {
+    throw UsageError("give --contact ID or --employee ID");
+  }
+  int32_t contactID = args.id("contact", -1);
+  int32_t employeeID = args.id("employee", -1);
+  int32_t companyID = args.id("company", -1);
+  Session session(context);
+  context.out << modFormatAddresses::saveContactBusinessRTF(contactID, employeeID, companyID,
+                                                           args.has("skip-other-companies"))
+              << "\n";
+  return session.exitStatus();
+}
+
+const CommandRegistration kRegistration(Command{
+    "summary",
+    "compose, store and print the RTF summary of a contact or a firm employee",
+    "Usage: quillbox summary --db FILE (--contact ID | --employee ID) [--company ID]\n"
+    "                        [--skip-other-companies]\n"
+    "\n"
+    "Composes the rich-text summary of a contact, or of a firm employee when\n"
+    "--employee names one, stores it as the person's BusinessNotes and prints it\n"
+    "exactly as stored (lines end in CR LF), then a newline. For a contact, the\n"
+    "copy in the ContactNotes of every company it is default contact of is\n"
+    "refreshed too; the contact's BusinessNotes then hold the view of the last\n"
+    "such company.\n"
+    "\n"
+    "  --db FILE                 the client database\n"
+    "  --contact ID              the contact (default -1, none)\n"
+    "  --employee ID             the firm employee; takes precedence (default -1)\n"
+    "  --company ID              the company whose view the summary takes: its\n"
+    "                            Default Contact line and inherited address (default -1)\n"
+    "  --skip-other-companies    leave the other companies' ContactNotes alone\n"
+    "\n"
+    "The insurance number is labelled SIN with --country 1 and SSN otherwise.\n"
+    "An unknown person prints an empty line and writes nothing.\n",
+    {"db", "contact", "employee", "company"},
+    {"skip-other-companies"},
+    runSummary,
+});
+
+}  // namespace
+}  // namespace qb::cli

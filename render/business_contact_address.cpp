@@ -1,0 +1,138 @@
+// createBusinessContactAddress: the address block of a contact or a firm
+// employee, read from the store, with the company's (or the firm's) address
+// for a person who inherits it.
+
+#include "data/mod_database_functions.h"
+#include "render/mod_format_addresses.h"
+#include "render/store_access.h"
+#include "services/errors/procedure.h"
+#include "services/runtime/strings.h"
+
+namespace qb::modFormatAddresses {
+
+namespace db_functions = qb::modDatabaseFunctions;
+using render::fieldText;
+
+namespace {
+
+// Positions 2 to 6 of the record from the person's business address columns.
+void readPersonAddress(DatabaseReference& db, RecordsetHandle person, AddressRecord& address) {
+  address.addressText = fieldText(db, person, "BusinessAddress");
+  address.city = fieldText(db, person, "BusinessCity");
+  address.province = fieldText(db, person, "BusinessProvince");
+  address.postalCode = fieldText(db, person, "BusinessPostalCode");
+  address.country = fieldText(db, person, "BusinessCountry");
+}
+
+// Positions 2 to 6 from a company row (Companies or AccountantFirmInfo).
+void readCompanyAddress(DatabaseReference& db, RecordsetHandle company, AddressRecord& address) {
+  address.addressText = fieldText(db, company, "Address");
+  address.city = fieldText(db, company, "City");
+  address.province = fieldText(db, company, "Province");
+  address.postalCode = fieldText(db, company, "PostalCode");
+  address.country = fieldText(db, company, "Country");
+}
+
+bool blank(const std::string& value) { return isBlankValue(Variant(value)); }
+
+}  // namespace
+
+std::string createBusinessContactAddress(int32_t& contactID, bool& convertRTF, int32_t& employeeID,
+                                         int32_t& companyID, bool& includeAddress,
+                                         bool& includePhones, bool& includeEmail,
+                                         bool& includeBusinessName) {
+  Procedure proc("Orvanta.exe-modFormatAddresses-createBusinessContactAddress");
+  std::string result;
+  AddressRecord address;
+  bool companyOpen = false;  // a company (or firm) recordset was opened
+  bool personFound = false;
+  bool readPerson = false;   // an id was valid and the person's recordset opened
+  RecordsetHandle person = 0;
+  RecordsetHandle company = 0;
+  auto db = render::storeReference();
+
+  proc.step([&] { clearAddressFields(address); });
+  proc.step([&] {
+    if (!render::connected(proc, db)) proc.leave();
+  });
+  proc.step([&] {
+    if (db_functions::validEmployeeID(std::to_string(employeeID))) {
+      readPerson = true;
+      person = db->openRecordset(
+          "SELECT AccountantEmployeeInfo.* FROM AccountantEmployeeInfo WHERE "
+          "AccountantEmployeeInfo.ContactID=" + std::to_string(employeeID) + ";",
+          adOpenKeyset, adLockReadOnly);
+      // The reverse of the contact path: a valid firm id means no firm address.
+      if (db_functions::validFirmID(std::to_string(companyID))) {
+        companyID = -1;
+      } else {
+        companyOpen = true;
+        companyID = db_functions::getAccountantFirmID();
+        company = db->openRecordset(
+            "SELECT AccountantFirmInfo.* FROM AccountantFirmInfo WHERE "
+            "AccountantFirmInfo.CompanyID=" + std::to_string(companyID) + ";",
+            adOpenKeyset, adLockReadOnly);
+      }
+    } else if (db_functions::validContactID(std::to_string(contactID))) {
+      readPerson = true;
+      person = db->openRecordset(
+          "SELECT Contacts.* FROM Contacts WHERE Contacts.ContactID=" + std::to_string(contactID) +
+              ";",
+          adOpenKeyset, adLockReadOnly);
+      if (!db_functions::validCompanyID(std::to_string(companyID))) {
+        companyID = -1;
+      } else {
+        companyOpen = true;
+        company = db->openRecordset(
+            "SELECT Companies.* FROM Companies WHERE Companies.CompanyID=" +
+                std::to_string(companyID) + ";",
+            adOpenKeyset, adLockReadOnly);
+      }
+    }
+    if (!readPerson) proc.leave();
+  });
+  proc.step([&] {
+    if (!db->moveFirstRecord(person)) return;
+    personFound = true;
+    if (includeBusinessName) address.businessName = fieldText(*db, person, "BusinessName");
+    address.contactName = fieldText(*db, person, "DisplayName");
+    if (includeAddress) {
+      address.businessName = fieldText(*db, person, "BusinessName");
+      address.contactName = fieldText(*db, person, "DisplayName");
+      readPersonAddress(*db, person, address);
+    }
+    if (includePhones) {
+      address.phone = fieldText(*db, person, "BusinessPhone_Main");
+      address.fax = fieldText(*db, person, "BusinessPhone_Fax");
+      address.cell = fieldText(*db, person, "BusinessPhone_Cell");
+    }
+    if (includeEmail) address.email = fieldText(*db, person, "BusinessEmail");
+  });
+  proc.step([&] {
+    if (!personFound || !render::fieldTrue(*db, person, "InheritCompanyInfo")) return;
+    if (!companyOpen || !db->moveFirstRecord(company)) return;
+    if (includeAddress) readCompanyAddress(*db, company, address);
+    if (includePhones) {
+      if (blank(address.phone)) address.phone = fieldText(*db, company, "OfficeNumber");
+      // Tested on the phone again, not on the fax: a person with a phone of
+      // its own, or a company with an office number, keeps the fax it has.
+      if (blank(address.phone)) address.fax = fieldText(*db, company, "FaxNumber");
+    }
+  });
+  proc.step([&] {
+    bool includeContactName = true;
+    if (!includePhones && !includeEmail) {
+      result = createAddress(address, includeContactName, convertRTF);
+    } else {
+      result = createAddressWithContactInfo(address, includeContactName, convertRTF);
+    }
+  });
+  proc.step([&] {
+    if (companyOpen) db->closeRecordset(company);
+    db->closeRecordset(person);
+  });
+  proc.step([&] { result = Trim(result); });
+  return result;
+}
+
+}  // namespace qb::modFormatAddresses
