@@ -1,0 +1,132 @@
+#include "services/quillbox/doc_quillbox_category_class.h"
+
+#include "services/errors/procedure.h"
+#include "services/quillbox/library_store.h"
+
+namespace qb {
+
+using namespace quillboxLibrary;
+
+namespace {
+constexpr const char* kSelectCategory = "SELECT DocCategories.* FROM DocCategories WHERE DocCategoryID = ";
+constexpr const char* kSelectCategoryDocuments = "SELECT Documents.* FROM Documents WHERE DocCategoryNum = ";
+}  // namespace
+
+void docQuillboxCategoryClass::readRow(DatabaseReference& db, RecordsetHandle handle) {
+  categoryID_ = readId(db, handle, "DocCategoryID");
+  parentCategoryNum_ = readId(db, handle, "DocCategoryNum");
+  companyIDNum_ = readId(db, handle, "CompanyIDNum");
+  contactIDNum_ = readId(db, handle, "ContactIDNum");
+  categoryName_ = readText(db, handle, "DocCategoryName");
+  categoryDescription_ = readText(db, handle, "DocCategoryDescription");
+  synchFolder_ = readText(db, handle, "DocCategorySynchFolder");
+  categorySpecialType_ = readNumber(db, handle, "DocCategorySpecialType");
+}
+
+void docQuillboxCategoryClass::loadCategory(bool& loadDocuments, bool& result) {
+  Procedure proc("Orvanta.exe-docQuillboxCategoryClass-loadCategory");
+  result = false;
+  documents_.clear();
+  position_ = 0;
+  proc.step([&] {
+    DatabaseReference& db = database();
+    if (!db.isConnected()) return;
+    Recordset rs(db, keyedSql(kSelectCategory, categoryID_), adLockReadOnly);
+    if (!rs.moveFirst()) return;
+    readRow(db, rs.handle());
+    rs.close();
+    result = true;
+  });
+  if (!result || !loadDocuments) return;
+
+  bool started = false;
+  proc.step([&] {
+    DatabaseReference& db = database();
+    Recordset rs(db, keyedSql(kSelectCategoryDocuments, categoryID_), adLockReadOnly);
+    int32_t maximum = db.getRecordCount(rs.handle());
+    started = true;
+    startLoadDocumentProgress.raise(maximum);
+    int32_t steps = 0;
+    if (rs.moveFirst()) {
+      while (!rs.isEnd()) {
+        auto document = std::make_shared<docQuillboxDocumentClass>();
+        try {
+          document->readRecord(db, rs.handle(), true);
+          documents_.push_back(document);
+        } catch (const RuntimeError& e) {
+          std::string message = "A document link of the category '" + categoryName_ +
+                                "' could not be loaded: " + e.description();
+          errorLoadDocument.raise(message);
+        }
+        incLoadDocumentProgress.raise(++steps);
+        rs.moveNext();
+      }
+    }
+    rs.close();
+  });
+  if (started) proc.step([&] { endLoadDocumentProgress.raise(); });
+}
+
+void docQuillboxCategoryClass::saveCategory() {
+  Procedure proc("Orvanta.exe-docQuillboxCategoryClass-saveCategory");
+  proc.step([&] {
+    DatabaseReference& db = database();
+    if (!db.isConnected()) return;
+    if (categoryID_ < 0) {
+      Recordset rs(db, keyedSql(kSelectCategory, -1), adLockOptimistic);
+      db.addNewRecord(rs.handle());
+      rs.set("DocCategoryNum", keyText(parentCategoryNum_));
+      rs.set("CompanyIDNum", keyText(companyIDNum_));
+      rs.set("ContactIDNum", keyText(contactIDNum_));
+      rs.set("DocCategoryName", categoryName_);
+      rs.set("DocCategoryDescription", categoryDescription_);
+      rs.set("DocCategorySynchFolder", synchFolder_);
+      rs.set("DocCategorySpecialType", "0");
+      db.updateRecord(rs.handle());
+      categoryID_ = rs.id("DocCategoryID");
+      categorySpecialType_ = 0;
+      rs.close();
+      return;
+    }
+    Recordset rs(db, keyedSql(kSelectCategory, categoryID_), adLockOptimistic);
+    if (!rs.moveFirst())
+      throw RuntimeError(err::kNoCurrentRecord,
+                         "There is no document category " + std::to_string(categoryID_) +
+                             " to save.",
+                         "docQuillboxCategoryClass");
+    rs.update("DocCategoryNum", keyText(parentCategoryNum_));
+    rs.update("CompanyIDNum", keyText(companyIDNum_));
+    rs.update("ContactIDNum", keyText(contactIDNum_));
+    rs.update("DocCategoryName", categoryName_);
+    rs.update("DocCategoryDescription", categoryDescription_);
+    rs.update("DocCategorySynchFolder", synchFolder_);
+    rs.close();
+  });
+}
+
+void docQuillboxCategoryClass::moveFirstDocument(bool& result) {
+  Procedure proc("Orvanta.exe-docQuillboxCategoryClass-moveFirstDocument");
+  proc.step([&] {
+    position_ = 0;
+    result = !documents_.empty();
+  });
+}
+
+void docQuillboxCategoryClass::moveNextDocument(bool& result) {
+  Procedure proc("Orvanta.exe-docQuillboxCategoryClass-moveNextDocument");
+  proc.step([&] {
+    if (position_ < documents_.size()) ++position_;
+    result = position_ < documents_.size();
+  });
+}
+
+void docQuillboxCategoryClass::isEndOfDocuments(bool& result) {
+  Procedure proc("Orvanta.exe-docQuillboxCategoryClass-isEndOfDocuments");
+  proc.step([&] { result = position_ >= documents_.size(); });
+}
+
+std::shared_ptr<docQuillboxDocumentClass> docQuillboxCategoryClass::currentDocument() const {
+  return position_ < documents_.size() ? documents_[position_] : nullptr;
+}
+
+}  // namespace qb

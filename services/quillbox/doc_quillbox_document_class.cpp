@@ -1,0 +1,173 @@
+#include "services/quillbox/doc_quillbox_document_class.h"
+
+#include "services/errors/procedure.h"
+#include "services/host/locale_reference.h"
+#include "services/quillbox/file_icons.h"
+#include "services/quillbox/library_store.h"
+#include "services/runtime/dates.h"
+#include "services/runtime/strings.h"
+
+namespace qb {
+
+using namespace quillboxLibrary;
+
+namespace {
+
+constexpr const char* kSelectDocument = "SELECT Documents.* FROM Documents WHERE DocumentID = ";
+
+// The icon of what the path names by its type alone: a folder, or the file's
+// extension.
+std::string typeIconName(const fileUtilitiesClass& files, const std::string& path) {
+  if (files.folderExists(path)) return kFolderIcon;
+  return iconNameForExtension(files.getFileExtension(path));
+}
+
+}  // namespace
+
+void docQuillboxDocumentClass::setIcons(const std::string& iconName) {
+  smallIconPicture_ = Picture::themeIcon(iconName, kSmallIconSize);
+  largeIconPicture_ = Picture::themeIcon(iconName, kLargeIconSize);
+}
+
+void docQuillboxDocumentClass::readFileFacts() {
+  fileUtilitiesClass files;
+  fileAccessState_ = files.accessState(documentPath_);
+  setIcons(fileAccessState_ == FileAccessState::reachable ? typeIconName(files, documentPath_)
+                                                          : kUnreachableIcon);
+}
+
+void docQuillboxDocumentClass::readRecord(DatabaseReference& db, RecordsetHandle handle,
+                                          bool loadAll) {
+  documentID_ = readId(db, handle, "DocumentID");
+  docCategoryNum_ = readId(db, handle, "DocCategoryNum");
+  companyIDNum_ = readId(db, handle, "CompanyIDNum");
+  contactIDNum_ = readId(db, handle, "ContactIDNum");
+  documentName_ = readText(db, handle, "DocIconName");
+  documentPath_ = readText(db, handle, "DocPath");
+  hostComputerName_ = readText(db, handle, "DocHostComputerName");
+  dateAdded_ = readDate(db, handle, "DocDateAdded");
+  addedByUserID_ = readId(db, handle, "DocAddedByUserIDNum");
+  if (loadAll) {
+    readFileFacts();
+  } else {
+    setIcons(iconNameForExtension(fileUtilitiesClass().getFileExtension(documentPath_)));
+  }
+}
+
+void docQuillboxDocumentClass::loadDocument(bool& loadAll, bool& result) {
+  Procedure proc("Orvanta.exe-docQuillboxDocumentClass-loadDocument");
+  result = false;
+  proc.step([&] {
+    DatabaseReference& db = database();
+    if (!db.isConnected()) return;
+    Recordset rs(db, keyedSql(kSelectDocument, documentID_), adLockReadOnly);
+    if (!rs.moveFirst()) return;
+    readRecord(db, rs.handle(), loadAll);
+    rs.close();
+    result = true;
+  });
+}
+
+void docQuillboxDocumentClass::addDocument(std::string& path, int32_t& category) {
+  Procedure proc("Orvanta.exe-docQuillboxDocumentClass-addDocument");
+  proc.step([&] {
+    DatabaseReference& db = database();
+    if (!db.isConnected()) return;
+    // The link belongs to the client whose category it goes into.
+    int32_t company = -1, contact = -1;
+    {
+      Recordset owner(db,
+                      keyedSql("SELECT DocCategories.DocCategoryID, DocCategories.CompanyIDNum, "
+                               "DocCategories.ContactIDNum FROM DocCategories WHERE DocCategoryID = ",
+                               category),
+                      adLockReadOnly);
+      if (!owner.moveFirst())
+        throw RuntimeError(err::kNoCurrentRecord,
+                           "There is no document category " + std::to_string(category) +
+                               " to link the file '" + path + "' into.",
+                           "docQuillboxDocumentClass");
+      company = owner.id("CompanyIDNum");
+      contact = owner.id("ContactIDNum");
+      owner.close();
+    }
+
+    fileUtilitiesClass files;
+    std::string fullPath = files.normalizeFilePath(path);
+    std::string fileName = files.getFileNameFromPath(fullPath);
+    std::string host = files.getComputerName();
+    double added = Now();
+    LocaleReference* userLocale = locale();
+    int32_t user = userLocale != nullptr ? userLocale->getCurrentUserID() : -1;
+
+    Recordset rs(db, keyedSql(kSelectDocument, -1), adLockOptimistic);
+    db.addNewRecord(rs.handle());
+    rs.set("CompanyIDNum", keyText(company));
+    rs.set("ContactIDNum", keyText(contact));
+    rs.set("DocCategoryNum", keyText(category));
+    rs.set("DocIconName", fileName);
+    rs.set("DocName", fileName);
+    rs.set("DocFileName", fileName);
+    rs.set("DocPath", fullPath);
+    rs.set("DocHostComputerName", host);
+    rs.set("DocDateAdded", dateText(added));
+    rs.set("DocAddedByUserIDNum", keyText(user));
+    db.updateRecord(rs.handle());
+    documentID_ = rs.id("DocumentID");
+    rs.close();
+
+    docCategoryNum_ = category;
+    companyIDNum_ = company;
+    contactIDNum_ = contact;
+    documentName_ = fileName;
+    documentPath_ = fullPath;
+    hostComputerName_ = host;
+    dateAdded_ = Variant::date(added);
+    addedByUserID_ = user;
+    readFileFacts();
+  });
+}
+
+void docQuillboxDocumentClass::saveDocument(bool& result) {
+  Procedure proc("Orvanta.exe-docQuillboxDocumentClass-saveDocument");
+  result = false;
+  proc.step([&] {
+    DatabaseReference& db = database();
+    if (!db.isConnected()) return;
+    Recordset rs(db, keyedSql(kSelectDocument, documentID_), adLockOptimistic);
+    if (!rs.moveFirst()) return;
+    std::string fileName = fileUtilitiesClass().getFileNameFromPath(documentPath_);
+    rs.update("DocIconName", documentName_);
+    rs.update("DocName", fileName);
+    rs.update("DocFileName", fileName);
+    rs.update("DocPath", documentPath_);
+    rs.close();
+    result = true;
+  });
+}
+
+void docQuillboxDocumentClass::deleteDocument(int32_t& id, bool& result) {
+  Procedure proc("Orvanta.exe-docQuillboxDocumentClass-deleteDocument");
+  result = false;
+  proc.step([&] {
+    DatabaseReference& db = database();
+    if (!db.isConnected()) return;
+    Recordset rs(db,
+                 keyedSql("SELECT Documents.DocumentID FROM Documents WHERE DocumentID = ", id),
+                 adLockOptimistic);
+    if (!rs.moveFirst()) return;
+    result = db.deleteRecord(rs.handle());
+    rs.close();
+  });
+}
+
+void docQuillboxDocumentClass::isMergeDocument(std::string& extension, bool& result) {
+  Procedure proc("Orvanta.exe-docQuillboxDocumentClass-isMergeDocument");
+  result = false;
+  proc.step([&] {
+    std::string text = Trim(extension);
+    if (!text.starts_with('.')) text = "." + text;
+    result = equalsText(text, kMergeDocumentExtension);
+  });
+}
+
+}  // namespace qb

@@ -1,0 +1,36 @@
+#pragma once
+// generalUtilitiesClass: small helpers the component uses on its controls
+// and captions. It also keeps the error object the component hands it.
+
+#include <memory>
+#include <string>
+
+namespace qb {
+
+class ErrorObject;
+class ListView;
+class TreeView;
+
+class generalUtilitiesClass {
+ public:
+  // Keeps the error object, in place of any kept before.
+  void setErrorClass(const std::shared_ptr<ErrorObject>& errorObject);
+  // The error object kept, or null when none was given.
+  const std::shared_ptr<ErrorObject>& errorClass() const { return errorClass_; }
+
+  // Sets the tree up for the category tree: files from a file window can be
+  // dropped on it from the start (OLEDropMode 1, OLEDragMode 0: drags are
+  // started by the component itself), rows of 255 twips (a 16-pixel icon with
+  // its margin), scrolled to the top.
+  void prepareTreeView(TreeView& tree) const;
+  // The text for a heading caption: two blanks of indent, then the text on
+  // one line (each line break or tab becomes a blank). "" gives "  ".
+  std::string formatCaptionText(const std::string& text) const;
+  // Leaves the list in list mode (View 2); nothing else changes.
+  void setListViewListMode(ListView& list) const;
+
+ private:
+  std::shared_ptr<ErrorObject> errorClass_;
+};
+
+}  // namespace qb
