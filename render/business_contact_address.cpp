@@ -35,6 +35,17 @@ void readCompanyAddress(DatabaseReference& db, RecordsetHandle company, AddressR
 
 bool blank(const std::string& value) { return isBlankValue(Variant(value)); }
 
+// The finished block: blanks cut on both sides, and a line break the block
+// ends with cut too (a block of names only ends with one); the paragraph
+// marks of an RTF block stay.
+std::string trimBlock(const std::string& text) {
+  std::string result = Trim(text);
+  while (!result.empty() && (result.back() == '\r' || result.back() == '\n' || result.back() == ' ')) {
+    result.pop_back();
+  }
+  return result;
+}
+
 }  // namespace
 
 std::string createBusinessContactAddress(int32_t& contactID, bool& convertRTF, int32_t& employeeID,
@@ -131,7 +142,7 @@ std::string createBusinessContactAddress(int32_t& contactID, bool& convertRTF, i
     if (companyOpen) db->closeRecordset(company);
     db->closeRecordset(person);
   });
-  proc.step([&] { result = Trim(result); });
+  proc.step([&] { result = trimBlock(result); });
   return result;
 }
 

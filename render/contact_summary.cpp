@@ -262,7 +262,8 @@ std::string saveContactBusinessRTF(int32_t& contactID, int32_t& employeeID, int3
     summary.linkedNames(associatedCategories(personID));
     summary.endSection();
   });
-  // Section 8: the custom fields under the firm's own labels, as stored.
+  // Section 8: the custom fields under the firm's own labels, as stored
+  // (with their colon); a label never set shows as it stands.
   proc.step([&] {
     if (db->isRecordsetEmpty(customFields)) {
       db->addNewRecord(customFields);
@@ -274,7 +275,7 @@ std::string saveContactBusinessRTF(int32_t& contactID, int32_t& employeeID, int3
       if (fieldBlank(*db, person, column.c_str())) continue;
       std::string labelColumn = "ContactLabel" + std::to_string(n);
       summary.line("\\b " + rtf::storedText(fieldText(*db, customFields, labelColumn.c_str())) +
-                    ":\\b0  " + rtf::storedText(fieldText(*db, person, column.c_str())));
+                    "\\b0  " + rtf::storedText(fieldText(*db, person, column.c_str())));
     }
     summary.endSection();
   });

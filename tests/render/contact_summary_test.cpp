@@ -1,0 +1,147 @@
+// The RTF summaries of contacts and employees, where they are stored, and the
+// copies in the notes of the companies whose default contact they are.
+
+#include <cstdio>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+
+#include "tests/render/render_fixture.h"
+
+namespace qb::test {
+namespace {
+
+class ContactSummary : public RenderTest {
+ protected:
+  ContactSummary() {
+    db.exec(
+        "INSERT INTO Contacts (ContactID, DisplayName, ClientID, BusinessName, BusinessJobTitle, "
+        "BusinessPhone_Main, BusinessEmail, BusinessAddress, BusinessCity, BusinessProvince, "
+        "BusinessPostalCode, SocialInsuranceNumber, AltAddressName, AltAddress, AltCity, Custom1) "
+        "VALUES (20, 'Ann Lee', 'C-20', 'Lee Consulting', 'Owner', '613-555-0100', 'ann@lee.ca', "
+        "'5 Elm St', 'Ottawa', 'ON', 'K1A 0B1', '123 456 789', 'Cottage', '1 Lake Rd', "
+        "'Wakefield', 'Blue');"
+        "INSERT INTO Contacts (ContactID, DisplayName) VALUES (21, 'Sam Poe');"
+        "INSERT INTO Contacts (ContactID, DisplayName, BusinessAddress, InheritCompanyInfo) "
+        "VALUES (22, 'Bo Hart', '9 Own St', 1);"
+        "INSERT INTO ContactsNotes (ContactNum, Notes) VALUES (20, 'Line one\r\nLine two'), "
+        "(22, NULL);"
+        "INSERT INTO Categories (CategoryID, CategoryName) VALUES (3, 'Clients');"
+        "INSERT INTO ContactLinks (ContactIDNum, CategoryNum) VALUES (20, 3);"
+        "INSERT INTO CustomAddressFields (ContactLabel1) VALUES ('Colour:');");
+  }
+};
+
+TEST_F(ContactSummary, ARichContactWritesEverySection) {
+  link(20, 1, "1");
+  const std::string expected =
+      kHeader +
+      "\\b\\pard\\fi-1450\\li1450\\ri0 Name:\\b0  Ann Lee\\par\r\n"
+      "\\b\\pard\\fi-1450\\li1450\\ri0 Client ID:\\b0  C-20\\par\r\n"
+      "\\b\\pard\\fi-1425\\li1425\\ri0 Company Name:\\b0   Lee Consulting\\par\r\n"
+      "\\b\\pard\\fi-800\\li800\\ri0 Job Title:\\b0   Owner\\par\r\n\\par\r\n"
+      "\\b Default Contact:\\b0  Yes\\par\r\n\\par\r\n"
+      "\\b\\pard\\fi-1100\\li1100\\ri0 Main Phone:\\b0   613-555-0100\\par\r\n"
+      "\\b\\pard\\fi0\\li0\\ri0 Email:\\b0  \\tab         ann@lee.ca\\par\r\n\\par\r\n"
+      "\\b\\pard\\fi0\\li0\\ri0 Address:\\b0\\par\r\n"
+      "Lee Consulting\r\n\\par Ann Lee\r\n\\par 5 Elm St\r\n\\par Ottawa, ON  K1A 0B1\\par\r\n"
+      "\\par\r\n"
+      "\\b SIN:\\b0  \\tab\\tab    123 456 789\\par\r\n\\par\r\n"
+      "\\b\\pard\\fi0\\li0\\ri0 Associated Company: \\b0 Acme Ltd\\par\r\n\\par\r\n"
+      "\\b\\pard\\fi0\\li0\\ri0 Address (Cottage):\\b0\\par\r\n1 Lake Rd\r\n\\par Wakefield\\par\r\n"
+      "\\par\r\n"
+      "\\b\\pard\\fi0\\li0\\ri0 Associated Category: \\b0 Clients\\par\r\n\\par\r\n"
+      "\\b Colour:\\b0  Blue\\par\r\n\\par\r\n"
+      "\\b Notes:\\b0\\par\r\nLine one\r\n\\par Line two\\par\r\n\\par\r\n}";
+  EXPECT_EQ(summary(20, 1), expected);
+  EXPECT_EQ(businessNotes(20), expected);
+  EXPECT_EQ(companyNotes(1), expected);
+
+  // Outside Canada the same number is an SSN; two companies make a list.
+  db.locale().countryCode = 2;
+  link(20, 2);
+  std::string text = summary(20, 2, true);
+  EXPECT_NE(text.find("\\b SSN:\\b0  \\tab\\tab    123 456 789\\par\r\n\\par\r\n"
+                      "\\b\\pard\\fi0\\li0\\ri0 Other Associated Companies: \\b0\\par\r\n"
+                      "Acme Ltd\\par\r\nBolt Inc\\par\r\n\\par\r\n"),
+            std::string::npos);
+  EXPECT_NE(text.find("Default Contact:\\b0  No"), std::string::npos);
+  EXPECT_EQ(companyNotes(1), expected);  // skipped: the other company is left alone
+  EXPECT_TRUE(db.errors().failures.empty());
+}
+
+TEST_F(ContactSummary, AContactWithOnlyANameAndUnknownPeople) {
+  EXPECT_EQ(summary(21, -1),
+            kHeader + "\\b\\pard\\fi-1450\\li1450\\ri0 Name:\\b0  Sam Poe\\par\r\n\\par\r\n"
+                      "\\b Default Contact:\\b0  No\\par\r\n\\par\r\n"
+                      "\\b\\pard\\fi0\\li0\\ri0 Address:\\b0\\par\r\nSam Poe\r\n\\par\\par\r\n"
+                      "\\par\r\n}");
+  // No notes row: one is added, without a ContactNum.
+  EXPECT_EQ(db.scalar("SELECT COUNT(*) FROM ContactsNotes WHERE ContactNum IS NULL AND "
+                      "BusinessNotes LIKE '%Sam Poe%';"),
+            "1");
+  EXPECT_EQ(summary(99, 1), "");
+  EXPECT_EQ(db.scalar("SELECT COUNT(*) FROM ContactsNotes;"), "3");
+}
+
+TEST_F(ContactSummary, AnEmployeeHasNoCompanyLines) {
+  db.exec(
+      "INSERT INTO AccountantEmployeeInfo (ContactID, DisplayName, EmployeeType, Notes) VALUES "
+      "(50, 'Eve Clerk', 'Staff', 'Temp');");
+  std::string text = summary(-1, -1, false, 50);
+  EXPECT_EQ(text.find("Default Contact"), std::string::npos);
+  EXPECT_NE(text.find("\\b Employee Type:\\b0  Staff\\par\r\n\\par\r\n\\b Notes:\\b0\\par\r\nTemp\\par"),
+            std::string::npos);
+  EXPECT_EQ(db.scalar("SELECT BusinessNotes FROM AccountantEmployeeInfo WHERE ContactID = 50;"), text);
+}
+
+TEST_F(ContactSummary, CopiesGoToEveryCompanyTheContactIsDefaultOf) {
+  link(22, 1, "1");
+  link(22, 2, "1");
+  link(22, 3, "0");
+  std::string view1 = summary(22, 1);
+  EXPECT_NE(view1.find("1 First Ave"), std::string::npos);  // inherited from company 1
+  EXPECT_EQ(companyNotes(1), view1);
+  EXPECT_NE(companyNotes(2).find("2 Second Ave"), std::string::npos);
+  EXPECT_EQ(companyNotes(3), "untouched");  // linked, but not as default
+  // The other company's view was written last, over the contact's own copy.
+  EXPECT_EQ(businessNotes(22), companyNotes(2));
+
+  std::string view3 = summary(22, 3, true);
+  EXPECT_EQ(businessNotes(22), view3);
+  EXPECT_EQ(companyNotes(1), view1);
+}
+
+// What a real RTF reader makes of a summary with accents and braces.
+TEST_F(ContactSummary, ARealReaderReadsAccentsAndBraces) {
+  const char* reader = "/usr/bin/unrtf";
+  if (!std::filesystem::exists(reader)) GTEST_SKIP() << "unrtf is not installed";
+  db.exec(
+      "INSERT INTO Contacts (ContactID, DisplayName, BusinessName) VALUES "
+      "(30, 'Hélène Côté', 'Côté & Fils {Montréal}');"
+      "UPDATE Companies SET CompanyName = 'Côté & Fils {Montréal}' WHERE CompanyID = 3;");
+  link(30, 3, "1");
+  std::string rtfPath = db.folder().file("summary.rtf");
+  std::ofstream(rtfPath, std::ios::binary) << summary(30, 3);
+
+  std::string command = std::string(reader) + " --text '" + rtfPath + "' 2>/dev/null";
+  FILE* pipe = popen(command.c_str(), "r");
+  ASSERT_NE(pipe, nullptr);
+  std::string text;  // the reader writes code page 1252: Latin-1 for these letters
+  for (int c; (c = fgetc(pipe)) != EOF;) {
+    if (c < 0x80) {
+      text += static_cast<char>(c);
+    } else {
+      text += static_cast<char>(0xC0 | (c >> 6));
+      text += static_cast<char>(0x80 | (c & 0x3F));
+    }
+  }
+  EXPECT_EQ(pclose(pipe), 0);
+  EXPECT_NE(text.find("Name: Hélène Côté"), std::string::npos) << text;
+  EXPECT_NE(text.find("Company Name:  Côté & Fils {Montréal}"), std::string::npos) << text;
+  EXPECT_NE(text.find("Associated Company: Côté & Fils {Montréal}"), std::string::npos) << text;
+  EXPECT_NE(text.find("Default Contact: Yes"), std::string::npos) << text;
+}
+
+}  // namespace
+}  // namespace qb::test
