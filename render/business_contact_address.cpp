@@ -15,22 +15,19 @@ using render::fieldText;
 
 namespace {
 
-// Positions 2 to 6 of the record from the person's business address columns.
-void readPersonAddress(DatabaseReference& db, RecordsetHandle person, AddressRecord& address) {
-  address.addressText = fieldText(db, person, "BusinessAddress");
-  address.city = fieldText(db, person, "BusinessCity");
-  address.province = fieldText(db, person, "BusinessProvince");
-  address.postalCode = fieldText(db, person, "BusinessPostalCode");
-  address.country = fieldText(db, person, "BusinessCountry");
-}
+// Positions 2 to 6 of the record, from the columns named in that order: a
+// person's business address or a company's (Companies, AccountantFirmInfo).
+using AddressColumns = const char* const[5];
+constexpr AddressColumns kPersonColumns = {"BusinessAddress", "BusinessCity", "BusinessProvince",
+                                           "BusinessPostalCode", "BusinessCountry"};
+constexpr AddressColumns kCompanyColumns = {"Address", "City", "Province", "PostalCode",
+                                            "Country"};
 
-// Positions 2 to 6 from a company row (Companies or AccountantFirmInfo).
-void readCompanyAddress(DatabaseReference& db, RecordsetHandle company, AddressRecord& address) {
-  address.addressText = fieldText(db, company, "Address");
-  address.city = fieldText(db, company, "City");
-  address.province = fieldText(db, company, "Province");
-  address.postalCode = fieldText(db, company, "PostalCode");
-  address.country = fieldText(db, company, "Country");
+void readAddress(DatabaseReference& db, RecordsetHandle row, const AddressColumns& columns,
+                 AddressRecord& address) {
+  std::string* fields[] = {&address.addressText, &address.city, &address.province,
+                           &address.postalCode, &address.country};
+  for (int i = 0; i < 5; ++i) *fields[i] = fieldText(db, row, columns[i]);
 }
 
 bool blank(const std::string& value) { return isBlankValue(Variant(value)); }
@@ -110,7 +107,7 @@ std::string createBusinessContactAddress(int32_t& contactID, bool& convertRTF, i
     if (includeAddress) {
       address.businessName = fieldText(*db, person, "BusinessName");
       address.contactName = fieldText(*db, person, "DisplayName");
-      readPersonAddress(*db, person, address);
+      readAddress(*db, person, kPersonColumns, address);
     }
     if (includePhones) {
       address.phone = fieldText(*db, person, "BusinessPhone_Main");
@@ -122,7 +119,7 @@ std::string createBusinessContactAddress(int32_t& contactID, bool& convertRTF, i
   proc.step([&] {
     if (!personFound || !render::fieldTrue(*db, person, "InheritCompanyInfo")) return;
     if (!companyOpen || !db->moveFirstRecord(company)) return;
-    if (includeAddress) readCompanyAddress(*db, company, address);
+    if (includeAddress) readAddress(*db, company, kCompanyColumns, address);
     if (includePhones) {
       if (blank(address.phone)) address.phone = fieldText(*db, company, "OfficeNumber");
       // Tested on the phone again, not on the fax: a person with a phone of

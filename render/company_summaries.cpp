@@ -19,15 +19,12 @@ void saveContactBusinessRTFForAllCompanies(int32_t contactID, int32_t companyID,
   RecordsetHandle companyNotes = 0;
 
   proc.step([&] {
-    if (!render::connected(proc, db)) {
-      proc.leave();
-      return;
-    }
-    links = db->openRecordset(
+    render::openWhenConnected(
+        proc, db,
         "SELECT ContactLinks.ContactIDNum, ContactLinks.CompanyNum, ContactLinks.DefaultContact "
         "FROM ContactLinks WHERE ContactLinks.ContactIDNum = " + std::to_string(contactID) + ";",
-        adOpenKeyset, adLockOptimistic);
-    if (!db->moveFirstRecord(links)) {
+        adLockOptimistic, links);
+    if (!proc.leaving() && !db->moveFirstRecord(links)) {
       db->closeRecordset(links);
       proc.leave();
     }

@@ -48,11 +48,7 @@ int32_t checkForDefaultContact(int32_t companyID, bool makeFirstDefault) {
   bool found = false;
 
   proc.step([&] {
-    if (!render::connected(proc, db)) {
-      proc.leave();
-      return;
-    }
-    links = db->openRecordset(companyLinksSql(companyID), adOpenKeyset, adLockReadOnly);
+    render::openWhenConnected(proc, db, companyLinksSql(companyID), adLockReadOnly, links);
   });
   proc.step([&] {
     if (db->moveFirstRecord(links)) return;
@@ -89,11 +85,7 @@ void setContactAsDefault(int32_t contactID, int32_t companyID, bool& skipSummary
   RecordsetHandle links = 0;
 
   proc.step([&] {
-    if (!render::connected(proc, db)) {
-      proc.leave();
-      return;
-    }
-    links = db->openRecordset(companyLinksSql(companyID), adOpenKeyset, adLockOptimistic);
+    render::openWhenConnected(proc, db, companyLinksSql(companyID), adLockOptimistic, links);
   });
   proc.step([&] {
     if (!db->moveFirstRecord(links)) return;
@@ -181,14 +173,12 @@ int32_t getDefaultContactIDFromCompanyID(int32_t companyID) {
   RecordsetHandle links = 0;
 
   proc.step([&] {
-    if (!render::connected(proc, db)) {
-      proc.leave();
-      return;
-    }
-    links = db->openRecordset(
+    // The same link query with its columns in another order.
+    render::openWhenConnected(
+        proc, db,
         "SELECT ContactLinks.CompanyNum, ContactLinks.ContactIDNum, ContactLinks.DefaultContact "
         "FROM ContactLinks WHERE ContactLinks.CompanyNum = " + std::to_string(companyID) + ";",
-        adOpenKeyset, adLockReadOnly);
+        adLockReadOnly, links);
   });
   proc.step([&] {
     hadLinks = db->moveFirstRecord(links);
@@ -220,15 +210,12 @@ bool isContactDefaultContact(int32_t companyID, int32_t contactID) {
   RecordsetHandle links = 0;
 
   proc.step([&] {
-    if (!render::connected(proc, db)) {
-      proc.leave();
-      return;
-    }
-    links = db->openRecordset(
+    render::openWhenConnected(
+        proc, db,
         "SELECT ContactLinks.ContactIDNum, ContactLinks.CompanyNum, ContactLinks.DefaultContact "
         "FROM ContactLinks WHERE CompanyNum=" + std::to_string(companyID) +
             " AND ContactLinks.ContactIDNum = " + std::to_string(contactID) + ";",
-        adOpenKeyset, adLockReadOnly);
+        adLockReadOnly, links);
   });
   proc.step([&] {
     if (!db->moveFirstRecord(links)) return;

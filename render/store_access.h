@@ -29,6 +29,18 @@ inline bool connected(Procedure& proc, const std::shared_ptr<DatabaseReference>&
   return db->isConnected();
 }
 
+// The opening step of a query: when the store can take queries, opens the
+// SQL (keyset, the lock given) into handle; otherwise the procedure leaves.
+inline void openWhenConnected(Procedure& proc, const std::shared_ptr<DatabaseReference>& db,
+                              const std::string& sqlText, int32_t lockType,
+                              RecordsetHandle& handle) {
+  if (!connected(proc, db)) {
+    proc.leave();
+    return;
+  }
+  handle = db->openRecordset(sqlText, adOpenKeyset, lockType);
+}
+
 // A text column as it stands; Null gives "".
 inline std::string fieldText(DatabaseReference& db, RecordsetHandle handle, const char* column) {
   return toText(db.getFieldValue(handle, Variant(column)));

@@ -1,5 +1,6 @@
 // quillbox address: the address block of a contact or a firm employee.
 
+#include "app/cli/person_options.h"
 #include "app/cli/session.h"
 #include "render/mod_format_addresses.h"
 
@@ -8,22 +9,17 @@ namespace {
 
 int runAddress(Context& context) {
   const Arguments& args = context.args;
-  if (!args.has("contact") && !args.has("employee")) {
-    throw UsageError("give --contact ID or --employee ID");
-  }
-  int32_t contactID = args.id("contact", -1);
-  int32_t employeeID = args.id("employee", -1);
-  int32_t companyID = args.id("company", -1);
+  PersonOptions person = personOptions(args);
   bool convertRTF = args.has("rtf");
   bool includeAddress = args.has("address");
   bool includePhones = args.has("phones");
   bool includeEmail = args.has("email");
   bool includeBusinessName = args.has("business-name");
   Session session(context);
-  context.out << modFormatAddresses::createBusinessContactAddress(
-                     contactID, convertRTF, employeeID, companyID, includeAddress, includePhones,
-                     includeEmail, includeBusinessName)
-              << "\n";
+  std::string address = modFormatAddresses::createBusinessContactAddress(
+      person.contactID, convertRTF, person.employeeID, person.companyID, includeAddress,
+      includePhones, includeEmail, includeBusinessName);
+  context.out << address << "\n";
   return session.exitStatus();
 }
 

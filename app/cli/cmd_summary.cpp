@@ -1,6 +1,7 @@
 // quillbox summary: compose and store the RTF summary of a contact or a firm
 // employee.
 
+#include "app/cli/person_options.h"
 #include "app/cli/session.h"
 #include "render/mod_format_addresses.h"
 
@@ -9,16 +10,11 @@ namespace {
 
 int runSummary(Context& context) {
   const Arguments& args = context.args;
-  if (!args.has("contact") && !args.has("employee")) {
-    throw UsageError("give --contact ID or --employee ID");
-  }
-  int32_t contactID = args.id("contact", -1);
-  int32_t employeeID = args.id("employee", -1);
-  int32_t companyID = args.id("company", -1);
+  PersonOptions person = personOptions(args);
   Session session(context);
-  context.out << modFormatAddresses::saveContactBusinessRTF(contactID, employeeID, companyID,
-                                                           args.has("skip-other-companies"))
-              << "\n";
+  std::string text = modFormatAddresses::saveContactBusinessRTF(
+      person.contactID, person.employeeID, person.companyID, args.has("skip-other-companies"));
+  context.out << text << "\n";
   return session.exitStatus();
 }
 
