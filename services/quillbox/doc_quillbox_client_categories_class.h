@@ -6,13 +6,7 @@
 //  - one node per category, Key and Tag "Category:<DocCategoryID>", Text the
 //    category's name, Image "OneClosed" and SelectedImage "OneOpened" (keys
 //    of the component's category image list);
-//  - a category under its parent (DocCategoryNum); a category whose parent is
-//    none, is not one of this client's, or lies in a parent loop stands at
-//    the top level;
-//  - siblings in this order: the main category, then the merge documents
-//    folder, then the merge shortcut list, then the ordinary ones; within a
-//    kind by DocCategorySortOrder (blank counts as 0), then by name ignoring
-//    case, then by key;
+//  - nesting and sibling order as client_category_rows.h tells;
 //  - the top-level nodes expanded, the rest collapsed.
 // After a fill the main category is selected (made visible), or the first
 // top-level node when the client has none; then setupCategoryDocumentsDisplay

@@ -22,6 +22,11 @@ std::string typeIconName(const fileUtilitiesClass& files, const std::string& pat
   return iconNameForExtension(files.getFileExtension(path));
 }
 
+// The file's name without its extension, as DocName holds it.
+std::string nameWithoutExtension(const fileUtilitiesClass& files, const std::string& fileName) {
+  return fileName.substr(0, fileName.size() - files.getFileExtension(fileName).size());
+}
+
 }  // namespace
 
 void docQuillboxDocumentClass::setIcons(const std::string& iconName) {
@@ -105,7 +110,7 @@ void docQuillboxDocumentClass::addDocument(std::string& path, int32_t& category)
     rs.set("ContactIDNum", keyText(contact));
     rs.set("DocCategoryNum", keyText(category));
     rs.set("DocIconName", fileName);
-    rs.set("DocName", fileName);
+    rs.set("DocName", nameWithoutExtension(files, fileName));
     rs.set("DocFileName", fileName);
     rs.set("DocPath", fullPath);
     rs.set("DocHostComputerName", host);
@@ -135,9 +140,10 @@ void docQuillboxDocumentClass::saveDocument(bool& result) {
     if (!db.isConnected()) return;
     Recordset rs(db, keyedSql(kSelectDocument, documentID_), adLockOptimistic);
     if (!rs.moveFirst()) return;
-    std::string fileName = fileUtilitiesClass().getFileNameFromPath(documentPath_);
+    fileUtilitiesClass files;
+    std::string fileName = files.getFileNameFromPath(documentPath_);
     rs.update("DocIconName", documentName_);
-    rs.update("DocName", fileName);
+    rs.update("DocName", nameWithoutExtension(files, fileName));
     rs.update("DocFileName", fileName);
     rs.update("DocPath", documentPath_);
     rs.close();

@@ -2,8 +2,10 @@
 
 #include <filesystem>
 
+#include "services/controls/combo_box.h"
 #include "services/controls/tree_view.h"
 #include "services/quillbox/doc_quillbox_category_class.h"
+#include "services/quillbox/doc_quillbox_category_list_class.h"
 #include "services/quillbox/doc_quillbox_client_categories_class.h"
 #include "services/quillbox/doc_quillbox_document_class.h"
 #include "services/runtime/dates.h"
@@ -67,6 +69,18 @@ TEST_F(CategoryObjects, PopulateBuildsTheClientsTreeAndSelectsTheMainCategory) {
   EXPECT_EQ(tree.Nodes()("Category:5").Image(), Variant("OneClosed"));
   EXPECT_TRUE(tree.isConsistent());
   EXPECT_EQ(fired, 1);
+
+  // The editor's parent combo lists the same categories in the same order.
+  ComboBox combo("cboField", 0);
+  docQuillboxCategoryListClass list;
+  list.setComboBox(combo);
+  list.setCompanyIDNum(1);
+  list.populateComboBox();
+  std::string entries;
+  for (int32_t i = 0; i < combo.ListCount(); ++i)
+    entries += "[" + combo.List(i) + "=" + std::to_string(combo.ItemData(i)) + "]";
+  EXPECT_EQ(entries, "[Main=1][    Taxes=3][        2023=5][    Bank=9][    letters=4]"
+                     "[Merge Documents=2][Archive=6]");
 
   // Filling again starts afresh; another client shows only its own.
   categories.clearCategories();
@@ -160,6 +174,7 @@ TEST_F(CategoryObjects, DocumentAddLoadSaveAndMergeType) {
   EXPECT_EQ(db.scalar("SELECT ContactIDNum FROM Documents WHERE " + key), "");
   EXPECT_EQ(db.scalar("SELECT DocCategoryNum FROM Documents WHERE " + key), "4");
   EXPECT_EQ(db.scalar("SELECT DocIconName FROM Documents WHERE " + key), "Engagement Letter.odt");
+  EXPECT_EQ(db.scalar("SELECT DocName FROM Documents WHERE " + key), "Engagement Letter");
   EXPECT_EQ(db.scalar("SELECT DocPath FROM Documents WHERE " + key), path);
   EXPECT_EQ(db.scalar("SELECT DocHostComputerName FROM Documents WHERE " + key),
             fileUtilitiesClass().getComputerName());
