@@ -1,5 +1,7 @@
 #include "services/quillbox/doc_quillbox_category_class.h"
 
+#include <functional>
+
 #include "services/errors/procedure.h"
 #include "services/quillbox/library_store.h"
 
@@ -69,18 +71,22 @@ void docQuillboxCategoryClass::loadCategory(bool& loadDocuments, bool& result) {
 
 void docQuillboxCategoryClass::saveCategory() {
   Procedure proc("Orvanta.exe-docQuillboxCategoryClass-saveCategory");
+  // The fields this object writes, through set (a new row) or update.
+  auto writeFields = [&](const std::function<void(const char*, const std::string&)>& write) {
+    write("DocCategoryNum", keyText(parentCategoryNum_));
+    write("CompanyIDNum", keyText(companyIDNum_));
+    write("ContactIDNum", keyText(contactIDNum_));
+    write("DocCategoryName", categoryName_);
+    write("DocCategoryDescription", categoryDescription_);
+    write("DocCategorySynchFolder", synchFolder_);
+  };
   proc.step([&] {
     DatabaseReference& db = database();
     if (!db.isConnected()) return;
     if (categoryID_ < 0) {
       Recordset rs(db, keyedSql(kSelectCategory, -1), adLockOptimistic);
       db.addNewRecord(rs.handle());
-      rs.set("DocCategoryNum", keyText(parentCategoryNum_));
-      rs.set("CompanyIDNum", keyText(companyIDNum_));
-      rs.set("ContactIDNum", keyText(contactIDNum_));
-      rs.set("DocCategoryName", categoryName_);
-      rs.set("DocCategoryDescription", categoryDescription_);
-      rs.set("DocCategorySynchFolder", synchFolder_);
+      writeFields([&](const char* field, const std::string& value) { rs.set(field, value); });
       rs.set("DocCategorySpecialType", "0");
       db.updateRecord(rs.handle());
       categoryID_ = rs.id("DocCategoryID");
@@ -94,12 +100,7 @@ void docQuillboxCategoryClass::saveCategory() {
                          "There is no document category " + std::to_string(categoryID_) +
                              " to save.",
                          "docQuillboxCategoryClass");
-    rs.update("DocCategoryNum", keyText(parentCategoryNum_));
-    rs.update("CompanyIDNum", keyText(companyIDNum_));
-    rs.update("ContactIDNum", keyText(contactIDNum_));
-    rs.update("DocCategoryName", categoryName_);
-    rs.update("DocCategoryDescription", categoryDescription_);
-    rs.update("DocCategorySynchFolder", synchFolder_);
+    writeFields([&](const char* field, const std::string& value) { rs.update(field, value); });
     rs.close();
   });
 }
