@@ -169,9 +169,11 @@ std::string fileUtilitiesClass::getFileNameFromPath(const std::string& path) con
 std::string fileUtilitiesClass::normalizeFilePath(const std::string& path) const {
   if (path.empty()) return path;
   std::error_code ec;
-  fs::path full = fs::weakly_canonical(fs::absolute(path, ec), ec);
-  if (ec) return fs::path(path).lexically_normal().string();
-  return full.string();
+  fs::path full = fs::absolute(path, ec);
+  if (ec) full = path;
+  std::string text = full.lexically_normal().string();
+  if (text.size() > 1 && text.back() == '/') text.pop_back();
+  return text;
 }
 
 std::string fileUtilitiesClass::getComputerName() const {

@@ -68,7 +68,7 @@ class fileUtilitiesClass {
   // The file name part of a path (after the last "/" or "\").
   std::string getFileNameFromPath(const std::string& path) const;
   // An absolute path with "." and ".." resolved and doubled separators
-  // removed; symbolic links are resolved as far as they exist.
+  // removed. Symbolic links stay as the user named them. "" stays "".
   std::string normalizeFilePath(const std::string& path) const;
 
   // This computer's network name; "" when the system does not tell it.
