@@ -30,7 +30,6 @@ class Screen {
   void removeObserver(int32_t id);
 
  private:
-  friend void resetPlatform();
   int16_t mousePointer_ = 0;
   std::vector<int16_t> history_;
   int32_t nextId_ = 1;

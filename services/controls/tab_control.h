@@ -1,8 +1,9 @@
 #pragma once
 // TabControl: a row of tabs, each with a caption and a visibility, and the
 // selected tab (Tab, from 0). Controls are placed on a tab with place(); a
-// GUI shows those of the selected tab. Selecting a hidden tab is allowed, as
-// the platform allowed it. Click is raised when Tab changes.
+// GUI shows those of the selected tab. A new control has three tabs.
+// Selecting a hidden tab is allowed, as the platform allowed it. Click is
+// raised when Tab changes.
 
 #include <cstdint>
 #include <string>
@@ -43,7 +44,7 @@ class TabControl : public ContainerControl {
   TabInfo& info(int16_t index);
   const TabInfo& info(int16_t index) const;
 
-  std::vector<TabInfo> tabs_;
+  std::vector<TabInfo> tabs_ = std::vector<TabInfo>(3);  // three tabs, as a new one has
   int16_t tab_ = 0;
 };
 
