@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "services/controls/control_failures.h"
+#include "services/controls/collection_support.h"
 #include "services/controls/list_view.h"
 
 namespace qb {
@@ -103,7 +103,7 @@ void ColumnHeaderCollection::Clear() {
 std::vector<ColumnHeader*> ColumnHeaderCollection::inDisplayOrder() const { return order_; }
 
 void ColumnHeaderCollection::renumber() {
-  for (size_t i = 0; i < columns_.size(); ++i) columns_[i]->index_ = static_cast<int32_t>(i + 1);
+  collection_support::numberFromOne(columns_, &ColumnHeader::index_);
 }
 
 void ColumnHeaderCollection::changed() { list_.changed(ControlChange::View); }

@@ -1,6 +1,6 @@
 #include "services/controls/image_list.h"
 
-#include "services/controls/control_failures.h"
+#include "services/controls/collection_support.h"
 
 namespace qb {
 
@@ -32,11 +32,7 @@ ListImage& ListImageCollection::item(const std::string& key) {
 }
 
 ListImage& ListImageCollection::item(const Variant& indexOrKey) {
-  if (indexOrKey.isString()) return item(indexOrKey.rawString());
-  if (indexOrKey.type() == VarType::Integer || indexOrKey.type() == VarType::Long) {
-    return item(indexOrKey.rawInt());
-  }
-  control_failures::invalidCall();
+  return collection_support::itemByIndexOrKey(*this, indexOrKey);
 }
 
 const ListImage* ListImageCollection::find(const Variant& indexOrKey) const {
@@ -64,7 +60,7 @@ void ListImageCollection::Clear() {
 }
 
 void ListImageCollection::renumber() {
-  for (size_t i = 0; i < images_.size(); ++i) images_[i]->index_ = static_cast<int32_t>(i + 1);
+  collection_support::numberFromOne(images_, &ListImage::index_);
 }
 
 qb::Picture ImageList::pictureOf(const Variant& indexOrKey) const {

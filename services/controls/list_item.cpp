@@ -1,6 +1,6 @@
 #include "services/controls/list_item.h"
 
-#include "services/controls/control_failures.h"
+#include "services/controls/collection_support.h"
 #include "services/controls/list_view.h"
 
 namespace qb {
@@ -54,7 +54,7 @@ void ListSubItemCollection::Clear() {
 }
 
 void ListSubItemCollection::renumber() {
-  for (size_t i = 0; i < subItems_.size(); ++i) subItems_[i]->index_ = static_cast<int32_t>(i + 1);
+  collection_support::numberFromOne(subItems_, &ListSubItem::index_);
 }
 
 void ListItem::setText(std::string value) {

@@ -1,6 +1,6 @@
 #include "services/controls/list_item_collection.h"
 
-#include "services/controls/control_failures.h"
+#include "services/controls/collection_support.h"
 #include "services/controls/list_view.h"
 
 namespace qb {
@@ -36,11 +36,7 @@ ListItem& ListItemCollection::item(const std::string& key) const {
 }
 
 ListItem& ListItemCollection::item(const Variant& indexOrKey) const {
-  if (indexOrKey.isString()) return item(indexOrKey.rawString());
-  if (indexOrKey.type() == VarType::Integer || indexOrKey.type() == VarType::Long) {
-    return item(indexOrKey.rawInt());
-  }
-  control_failures::invalidCall();
+  return collection_support::itemByIndexOrKey(*this, indexOrKey);
 }
 
 void ListItemCollection::Remove(int32_t index) { list_.forget(item(index)); }

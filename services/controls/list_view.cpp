@@ -4,7 +4,7 @@
 #include <cctype>
 #include <cmath>
 
-#include "services/controls/control_failures.h"
+#include "services/controls/collection_support.h"
 #include "services/runtime/strings.h"
 
 namespace qb {
@@ -194,7 +194,7 @@ void ListView::keepSorted() {
 }
 
 void ListView::renumber() {
-  for (size_t i = 0; i < rows_.size(); ++i) rows_[i]->index_ = static_cast<int32_t>(i + 1);
+  collection_support::numberFromOne(rows_, &ListItem::index_);
 }
 
 void ListView::forget(ListItem& item) {

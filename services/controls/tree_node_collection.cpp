@@ -1,6 +1,6 @@
 #include "services/controls/tree_node_collection.h"
 
-#include "services/controls/control_failures.h"
+#include "services/controls/collection_support.h"
 #include "services/controls/tree_view.h"
 
 namespace qb {
@@ -44,11 +44,7 @@ Node& NodeCollection::item(const std::string& key) const {
 }
 
 Node& NodeCollection::item(const Variant& indexOrKey) const {
-  if (indexOrKey.isString()) return item(indexOrKey.rawString());
-  if (indexOrKey.type() == VarType::Integer || indexOrKey.type() == VarType::Long) {
-    return item(indexOrKey.rawInt());
-  }
-  control_failures::invalidCall();
+  return collection_support::itemByIndexOrKey(*this, indexOrKey);
 }
 
 Node* NodeCollection::find(const std::string& key) const {

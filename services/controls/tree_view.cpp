@@ -4,7 +4,7 @@
 #include <cmath>
 #include <set>
 
-#include "services/controls/control_failures.h"
+#include "services/controls/collection_support.h"
 
 namespace qb {
 
@@ -101,7 +101,7 @@ void TreeView::unlink(Node& node) {
 }
 
 void TreeView::renumber() {
-  for (size_t i = 0; i < all_.size(); ++i) all_[i]->index_ = static_cast<int32_t>(i + 1);
+  collection_support::numberFromOne(all_, &Node::index_);
 }
 
 void TreeView::removeSubtree(Node& node) {
