@@ -662,8 +662,8 @@ CREATE INDEX IF NOT EXISTS idxDocCategoriesContactIDNum ON DocCategories (Contac
 -- A link to a file in a category (DocCategoryNum) of a client (CompanyIDNum
 -- or ContactIDNum, as its category). The file stays where it is:
 --   DocIconName          the display name shown in the list ("2025 T2 Return")
---   DocName, DocFileName the file's name without its folder ("T2 Return 2025.pdf");
---                        the search reads the file type from DocFileName
+--   DocName              the file's name without folder and extension ("T2-2025")
+--   DocFileName          the file's name with its extension ("T2-2025.pdf")
 --   DocPath              the full path of the file
 --   DocHostComputerName  the computer the link was added from
 --   DocDateAdded, DocAddedByUserIDNum  when and by which user (AccountantEmployeeInfo.ContactID)
