@@ -6,26 +6,23 @@
 
 namespace qb {
 
-void clsClientAddrBkCatTxt::setCompanyIDNum(int32_t id) {
+void clsClientAddrBkCatTxt::setClientID(int32_t id, int32_t type, int32_t& own, int32_t& other) {
   if (id >= 0) {
-    companyIDNum_ = id;
-    clientType_ = 2;
-    contactIDNum_ = -1;
+    own = id;
+    clientType_ = type;
+    other = -1;
   } else {
-    companyIDNum_ = -1;
-    if (clientType_ == 2) clientType_ = 0;
+    own = -1;
+    if (clientType_ == type) clientType_ = 0;
   }
 }
 
+void clsClientAddrBkCatTxt::setCompanyIDNum(int32_t id) {
+  setClientID(id, 2, companyIDNum_, contactIDNum_);
+}
+
 void clsClientAddrBkCatTxt::setContactIDNum(int32_t id) {
-  if (id >= 0) {
-    contactIDNum_ = id;
-    clientType_ = 1;
-    companyIDNum_ = -1;
-  } else {
-    contactIDNum_ = -1;
-    if (clientType_ == 1) clientType_ = 0;
-  }
+  setClientID(id, 1, contactIDNum_, companyIDNum_);
 }
 
 void clsClientAddrBkCatTxt::generateCategoryText() {

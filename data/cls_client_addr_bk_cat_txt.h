@@ -55,6 +55,9 @@ class clsClientAddrBkCatTxt {
   int32_t getParentCategoryIDFromCategoryNum(int32_t categoryID);
 
   int32_t parentFromCompany(int32_t companyID, int depth);
+  // Sets the company's or the contact's id (type 2 or 1); setting one clears
+  // the other.
+  void setClientID(int32_t id, int32_t type, int32_t& own, int32_t& other);
 
   int32_t clientType_ = 0;
   int32_t companyIDNum_ = -1;

@@ -1,7 +1,7 @@
 // Contact display names: both name tables, the couple rule and the family
 // relationship.
 
-#include "tests/data/data_fixture.h"
+#include "tests/data/data_test.h"
 
 namespace qb::test {
 namespace {
@@ -29,23 +29,19 @@ class ContactNamesTest : public DataTest {
   }
 };
 
-TEST_F(ContactNamesTest, GivenNameFirst) {
-  const char* expected[12] = {
-      "A. Smith", "Ann", "Smith", "Ann Smith",
-      "A. Smith", "Ann & Bob SMITH", "Bob Smith", "Ann & Bob Smith",
-      "A. Smith", "Ann & Bob Jones", "Smith & Bob Jones", "Ann Smith & Bob Jones"};
-  for (int id = 1; id <= 12; ++id) {
-    EXPECT_EQ(getContactNameDisplayedByType(2, id, -1, false), expected[id - 1]) << id;
-  }
-}
-
-TEST_F(ContactNamesTest, SurnameFirst) {
-  const char* expected[12] = {
-      "A. Smith", "Ann", "Smith", "Smith, Ann",
-      "A. Smith & SMITH, Bob", "Ann & SMITH, Bob", "Smith, Bob", "Smith, Ann & Bob",
-      "A. Smith & Jones, Bob", "Ann & Jones, Bob", "Smith & Jones, Bob", "Smith, Ann & Jones, Bob"};
-  for (int id = 1; id <= 12; ++id) {
-    EXPECT_EQ(getContactNameDisplayedByType(3, id, -1, false), expected[id - 1]) << id;
+TEST_F(ContactNamesTest, GivenNameFirstAndSurnameFirst) {
+  const char* expected[2][12] = {
+      {"A. Smith", "Ann", "Smith", "Ann Smith",
+       "A. Smith", "Ann & Bob SMITH", "Bob Smith", "Ann & Bob Smith",
+       "A. Smith", "Ann & Bob Jones", "Smith & Bob Jones", "Ann Smith & Bob Jones"},
+      {"A. Smith", "Ann", "Smith", "Smith, Ann",
+       "A. Smith & SMITH, Bob", "Ann & SMITH, Bob", "Smith, Bob", "Smith, Ann & Bob",
+       "A. Smith & Jones, Bob", "Ann & Jones, Bob", "Smith & Jones, Bob", "Smith, Ann & Jones, Bob"}};
+  for (int32_t type : {2, 3}) {
+    for (int32_t id = 1; id <= 12; ++id) {
+      EXPECT_EQ(getContactNameDisplayedByType(type, id, -1, false), expected[type - 2][id - 1])
+          << "type " << type << ", contact " << id;
+    }
   }
 }
 
