@@ -43,6 +43,8 @@ TEST_F(BusinessContactAddress, AnInheritingContactShowsItsCompany) {
             "Roe Design\r\nJane Roe\r\n1 First Ave\r\nOttawa, ON  K1A 0A1\r\nPhone: "
             "613-555-0001\r\nFax: own-fax\r\nCell: own-cell\r\nEmail: jane@roe.ca");
   EXPECT_EQ(company, 1);
+  EXPECT_EQ(db.errors().pushed.front(),
+            "Orvanta.exe-modFormatAddresses-createBusinessContactAddress");
 
   // No office number: the phone stays blank and so the company's fax wins.
   company = 2;

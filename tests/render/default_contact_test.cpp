@@ -39,6 +39,9 @@ TEST_F(DefaultContact, AReadMakesTheFirstLinkTheDefault) {
   link(10, 1);
   link(11, 1);
   EXPECT_EQ(getDefaultContactIDFromCompanyID(1), 10);
+  EXPECT_EQ(db.errors().pushed.front(),
+            "Orvanta.exe-modDatabaseClientFunctions-getDefaultContactIDFromCompanyID");
+  EXPECT_TRUE(db.errors().stack.empty());
 
   EXPECT_EQ(storedDefault(1), "10");
   EXPECT_TRUE(isContactDefaultContact(1, 10));
