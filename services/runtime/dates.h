@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <ctime>
+#include <string>
 
 namespace qb {
 
@@ -21,5 +22,13 @@ double Now();
 double Today();
 // A time_t (seconds since 1970 UTC) as a local date serial.
 double fromTimeT(std::time_t t);
+
+// The date as CStr writes it: "11/23/2026", with " 2:05:00 PM" when it has a
+// time part; a time alone (serial below 1) as "2:05:00 PM".
+std::string dateToText(double serial);
+// Reads "2026-11-23", "2026-11-23 14:05:00", "2026-11-23T14:05", "11/23/2026",
+// "11/23/2026 2:05 PM", "Nov 23, 2026", "November 23 2026", "2:05 PM"; false
+// when the text is none of these.
+bool parseDate(const std::string& text, double& serial);
 
 }  // namespace qb

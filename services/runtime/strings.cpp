@@ -1,0 +1,257 @@
+#include "services/runtime/strings.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <cstdio>
+
+namespace qb {
+
+namespace {
+
+// One decoded character: its code point and its byte length in the text.
+// A byte that starts no valid sequence counts as one character of its own.
+char32_t decode(const std::string& s, size_t i, size_t& length) {
+  unsigned char c = static_cast<unsigned char>(s[i]);
+  int extra = c < 0x80 ? 0 : (c >> 5) == 0x6 ? 1 : (c >> 4) == 0xE ? 2 : (c >> 3) == 0x1E ? 3 : -1;
+  length = 1;
+  if (extra == 0) return c;
+  if (extra < 0 || i + extra >= s.size()) return c;
+  char32_t cp = c & (0x3F >> extra);
+  for (int k = 1; k <= extra; ++k) {
+    unsigned char cc = static_cast<unsigned char>(s[i + k]);
+    if ((cc & 0xC0) != 0x80) return c;
+    cp = (cp << 6) | (cc & 0x3F);
+  }
+  length = static_cast<size_t>(extra) + 1;
+  return cp;
+}
+
+void encode(char32_t cp, std::string& out) {
+  if (cp < 0x80) {
+    out += static_cast<char>(cp);
+  } else if (cp < 0x800) {
+    out += static_cast<char>(0xC0 | (cp >> 6));
+    out += static_cast<char>(0x80 | (cp & 0x3F));
+  } else if (cp < 0x10000) {
+    out += static_cast<char>(0xE0 | (cp >> 12));
+    out += static_cast<char>(0x80 | ((cp >> 6) & 0x3F));
+    out += static_cast<char>(0x80 | (cp & 0x3F));
+  } else {
+    out += static_cast<char>(0xF0 | (cp >> 18));
+    out += static_cast<char>(0x80 | ((cp >> 12) & 0x3F));
+    out += static_cast<char>(0x80 | ((cp >> 6) & 0x3F));
+    out += static_cast<char>(0x80 | (cp & 0x3F));
+  }
+}
+
+bool isAscii(const std::string& s) {
+  for (char c : s)
+    if (static_cast<unsigned char>(c) >= 0x80) return false;
+  return true;
+}
+
+// Byte offset of each character, with the text's size at the end.
+std::vector<size_t> offsets(const std::string& s) {
+  std::vector<size_t> result;
+  result.reserve(s.size() + 1);
+  for (size_t i = 0; i < s.size();) {
+    result.push_back(i);
+    size_t length = 1;
+    decode(s, i, length);
+    i += length;
+  }
+  result.push_back(s.size());
+  return result;
+}
+
+// Case mapping of the Latin letters: ASCII, Latin-1 and Latin Extended-A.
+// Both cases of each pair take the same number of bytes, so a folded text
+// keeps the byte offsets of the original.
+char32_t toUpper(char32_t c) {
+  if (c >= 'a' && c <= 'z') return c - 32;
+  if ((c >= 0xE0 && c <= 0xFE && c != 0xF7)) return c - 32;
+  if (c == 0xFF) return 0x178;
+  if ((c >= 0x100 && c <= 0x137) || (c >= 0x14A && c <= 0x177)) return c & ~char32_t{1};
+  if ((c >= 0x139 && c <= 0x148) || (c >= 0x179 && c <= 0x17E)) return (c % 2 == 0) ? c - 1 : c;
+  return c;
+}
+
+char32_t toLower(char32_t c) {
+  if (c >= 'A' && c <= 'Z') return c + 32;
+  if ((c >= 0xC0 && c <= 0xDE && c != 0xD7)) return c + 32;
+  if (c == 0x178) return 0xFF;
+  if ((c >= 0x100 && c <= 0x137) || (c >= 0x14A && c <= 0x177)) return c | 1;
+  if ((c >= 0x139 && c <= 0x148) || (c >= 0x179 && c <= 0x17E)) return (c % 2 == 1) ? c + 1 : c;
+  return c;
+}
+
+template <typename Map>
+std::string mapCase(const std::string& text, Map map) {
+  std::string out;
+  out.reserve(text.size());
+  for (size_t i = 0; i < text.size();) {
+    size_t length = 1;
+    char32_t cp = decode(text, i, length);
+    if (length == 1 && static_cast<unsigned char>(text[i]) >= 0x80) {
+      out += text[i];  // a stray byte stays as it is
+    } else {
+      encode(map(cp), out);
+    }
+    i += length;
+  }
+  return out;
+}
+
+std::string fold(const std::string& text) { return mapCase(text, toLower); }
+
+// Windows-1252 bytes 0x80-0x9F and the characters they stand for.
+struct Cp1252 {
+  char32_t cp;
+  unsigned char byte;
+};
+constexpr Cp1252 kCp1252High[] = {
+    {0x20AC, 0x80}, {0x201A, 0x82}, {0x0192, 0x83}, {0x201E, 0x84}, {0x2026, 0x85}, {0x2020, 0x86},
+    {0x2021, 0x87}, {0x02C6, 0x88}, {0x2030, 0x89}, {0x0160, 0x8A}, {0x2039, 0x8B}, {0x0152, 0x8C},
+    {0x017D, 0x8E}, {0x2018, 0x91}, {0x2019, 0x92}, {0x201C, 0x93}, {0x201D, 0x94}, {0x2022, 0x95},
+    {0x2013, 0x96}, {0x2014, 0x97}, {0x02DC, 0x98}, {0x2122, 0x99}, {0x0161, 0x9A}, {0x203A, 0x9B},
+    {0x0153, 0x9C}, {0x017E, 0x9E}, {0x0178, 0x9F}};
+
+int cp1252Byte(char32_t cp) {
+  if (cp >= 0xA0 && cp <= 0xFF) return static_cast<int>(cp);
+  for (const Cp1252& entry : kCp1252High)
+    if (entry.cp == cp) return entry.byte;
+  return -1;
+}
+
+void appendUnicodeEscape(char32_t unit, std::string& out) {
+  out += "\\u" + std::to_string(static_cast<int16_t>(static_cast<uint16_t>(unit))) + "?";
+}
+
+}  // namespace
+
+int32_t Len(const std::string& text) {
+  if (isAscii(text)) return static_cast<int32_t>(text.size());
+  return static_cast<int32_t>(offsets(text).size() - 1);
+}
+
+std::string Mid(const std::string& text, int32_t start, int32_t count) {
+  if (start < 1) start = 1;
+  if (isAscii(text)) {
+    if (static_cast<size_t>(start) > text.size()) return "";
+    return count < 0 ? text.substr(start - 1) : text.substr(start - 1, count);
+  }
+  std::vector<size_t> at = offsets(text);
+  int32_t chars = static_cast<int32_t>(at.size() - 1);
+  if (start > chars) return "";
+  int32_t last = count < 0 ? chars : std::min(chars, start - 1 + count);
+  return text.substr(at[start - 1], at[last] - at[start - 1]);
+}
+
+std::string Left(const std::string& text, int32_t count) {
+  return count <= 0 ? std::string() : Mid(text, 1, count);
+}
+
+std::string Right(const std::string& text, int32_t count) {
+  if (count <= 0) return "";
+  int32_t length = Len(text);
+  return count >= length ? text : Mid(text, length - count + 1);
+}
+
+std::string LTrim(const std::string& text) {
+  size_t begin = text.find_first_not_of(' ');
+  return begin == std::string::npos ? std::string() : text.substr(begin);
+}
+
+std::string RTrim(const std::string& text) {
+  size_t end = text.find_last_not_of(' ');
+  return end == std::string::npos ? std::string() : text.substr(0, end + 1);
+}
+
+std::string Trim(const std::string& text) { return LTrim(RTrim(text)); }
+
+std::string UCase(const std::string& text) { return mapCase(text, toUpper); }
+
+std::string LCase(const std::string& text) { return mapCase(text, toLower); }
+
+int32_t InStr(int32_t start, const std::string& text, const std::string& find, CompareMode mode) {
+  if (start < 1) start = 1;
+  std::vector<size_t> at = offsets(text);
+  int32_t chars = static_cast<int32_t>(at.size() - 1);
+  if (start > chars + (find.empty() ? 1 : 0)) return 0;
+  if (find.empty()) return start;
+  const std::string& haystack = mode == CompareMode::Text ? fold(text) : text;
+  const std::string& needle = mode == CompareMode::Text ? fold(find) : find;
+  size_t found = haystack.find(needle, at[start - 1]);
+  if (found == std::string::npos) return 0;
+  // Map the byte offset back to a character position.
+  size_t lo = 0, hi = at.size() - 1;
+  while (lo < hi) {
+    size_t mid = (lo + hi) / 2;
+    if (at[mid] < found) lo = mid + 1; else hi = mid;
+  }
+  return static_cast<int32_t>(lo) + 1;
+}
+
+std::string Replace(const std::string& text, const std::string& find, const std::string& replacement,
+                    CompareMode mode) {
+  if (find.empty()) return text;
+  std::string haystack = mode == CompareMode::Text ? fold(text) : text;
+  std::string needle = mode == CompareMode::Text ? fold(find) : find;
+  std::string out;
+  size_t from = 0;
+  for (size_t at = haystack.find(needle); at != std::string::npos; at = haystack.find(needle, from)) {
+    out.append(text, from, at - from);
+    out += replacement;
+    from = at + needle.size();
+  }
+  out.append(text, from, std::string::npos);
+  return out;
+}
+
+bool equalsText(const std::string& a, const std::string& b) {
+  if (a.size() != b.size()) return false;
+  return fold(a) == fold(b);
+}
+
+std::vector<std::string> Split(const std::string& text, const std::string& delimiter) {
+  std::vector<std::string> parts;
+  if (text.empty()) return parts;
+  if (delimiter.empty()) return {text};
+  size_t from = 0;
+  for (size_t at = text.find(delimiter); at != std::string::npos; at = text.find(delimiter, from)) {
+    parts.push_back(text.substr(from, at - from));
+    from = at + delimiter.size();
+  }
+  parts.push_back(text.substr(from));
+  return parts;
+}
+
+std::string toRtfEscapes(const std::string& utf8) {
+  if (isAscii(utf8)) return utf8;
+  std::string out;
+  out.reserve(utf8.size() + 16);
+  for (size_t i = 0; i < utf8.size();) {
+    size_t length = 1;
+    char32_t cp = decode(utf8, i, length);
+    i += length;
+    if (cp < 0x80) {
+      out += static_cast<char>(cp);
+      continue;
+    }
+    int byte = cp1252Byte(cp);
+    if (byte >= 0) {
+      char hex[8];
+      std::snprintf(hex, sizeof hex, "\\'%02x", byte);
+      out += hex;
+    } else if (cp >= 0x10000) {
+      char32_t v = cp - 0x10000;
+      appendUnicodeEscape(0xD800 + (v >> 10), out);
+      appendUnicodeEscape(0xDC00 + (v & 0x3FF), out);
+    } else {
+      appendUnicodeEscape(cp, out);
+    }
+  }
+  return out;
+}
+
+}  // namespace qb
