@@ -2,6 +2,7 @@
 // a generated firm.
 
 #include <filesystem>
+#include <stdexcept>
 
 #include "app/cli/command.h"
 #include "services/store/sample_firm.h"
@@ -19,6 +20,9 @@ int runInit(Context& context) {
   if (generate && clients < 0) throw UsageError("--generate takes a number of clients, 0 or more");
   std::string files = args.value("files", defaultFilesFolder(path));
 
+  if (!args.has("force") && std::filesystem::exists(path)) {
+    throw std::runtime_error(path + " exists already; give --force to replace it");
+  }
   createDatabase(path, args.has("force"));
   context.out << "Created " << std::filesystem::absolute(path).lexically_normal().string() << "\n";
   if (!sample && !generate) {
@@ -35,7 +39,7 @@ int runInit(Context& context) {
 
 const CommandRegistration kRegistration(Command{
     "init",
-    "create a client database, empty or with the sample firm or a generated firm",
+    "create a client database: empty, the sample firm or a generated firm",
     "Usage: quillbox init --db FILE [--sample | --generate N] [--files DIR] [--force]\n"
     "\n"
     "Creates a new client database with the whole schema and prints what it made.\n"
