@@ -24,7 +24,8 @@ class SqliteDatabase : public DatabaseReference {
  public:
   struct Options {
     int busyTimeoutMs = 5000;
-    bool create = false;  // create the file when it does not exist
+    bool create = false;    // create the file when it does not exist
+    bool readOnly = false;  // open for reading only (also chosen when the file can't be written)
   };
 
   SqliteDatabase();
@@ -66,6 +67,9 @@ class SqliteDatabase : public DatabaseReference {
   bool findRecord(RecordsetHandle handle, const std::string& fieldName, const std::string& value,
                   const std::string& a = "", const std::string& b = "",
                   const std::string& c = "", const std::string& d = "") override;
+  bool deleteRecord(RecordsetHandle handle) override;
+  // Number of recordsets open now (tests check that procedures close theirs).
+  int openRecordsetCount() const;
 
  private:
   struct Impl;
