@@ -1,0 +1,5 @@
+// The benchmark programs' entry point.
+
+#include <benchmark/benchmark.h>
+
+BENCHMARK_MAIN();
