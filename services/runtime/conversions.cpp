@@ -1,11 +1,9 @@
 #include "services/runtime/conversions.h"
 
-#include <cerrno>
 #include <cfloat>
+#include <charconv>
 #include <climits>
 #include <cmath>
-#include <cstdio>
-#include <cstdlib>
 
 #include "services/errors/runtime_error.h"
 #include "services/runtime/dates.h"
@@ -15,28 +13,98 @@ namespace qb {
 
 namespace {
 
-constexpr int32_t kInvalidUseOfNull = 94;
-
 [[noreturn]] void typeMismatch() { throw RuntimeError(err::kTypeMismatch, "Type mismatch"); }
-[[noreturn]] void invalidUseOfNull() { throw RuntimeError(kInvalidUseOfNull, "Invalid use of Null"); }
+[[noreturn]] void invalidUseOfNull() { throw RuntimeError(err::kInvalidUseOfNull, "Invalid use of Null"); }
 [[noreturn]] void overflow() { throw RuntimeError(err::kOverflow, "Overflow"); }
 
-bool isBlank(char c) { return c == ' ' || c == '\t'; }
+// What a text reads as: a number, no number at all, or a number too large
+// for a Double (an overflow where a conversion asked for it).
+enum class Reading { Number, NotNumber, TooLarge };
 
-// Reads "&H1F" or "&O17" forms; false when text is not one.
-bool parseRadix(const std::string& text, double& out) {
-  if (text.size() < 3 || text[0] != '&') return false;
-  int base = 0;
+bool isBlank(char c) { return c == ' ' || c == '\t'; }
+bool isDigit(char c) { return c >= '0' && c <= '9'; }
+
+// Reads "&H1F" (hex) or "&O17" (octal). As the run-time does, a value that
+// fits 16 bits is an Integer and one that fits 32 bits a Long, so "&HFFFF"
+// is -1 and "&H8000" is -32768.
+Reading readRadix(const std::string& text, double& out) {
   char kind = static_cast<char>(text[1] | 0x20);
-  if (kind == 'h') base = 16;
-  if (kind == 'o') base = 8;
-  if (base == 0) return false;
-  errno = 0;
-  char* end = nullptr;
-  long long value = std::strtoll(text.c_str() + 2, &end, base);
-  if (errno != 0 || end == nullptr || *end != '\0') return false;
-  out = static_cast<double>(value);
-  return true;
+  int base = kind == 'h' ? 16 : kind == 'o' ? 8 : 0;
+  if (base == 0 || text.size() < 3) return Reading::NotNumber;
+  unsigned long long value = 0;
+  for (size_t i = 2; i < text.size(); ++i) {
+    char c = static_cast<char>(text[i] | 0x20);
+    int digit = isDigit(c) ? c - '0' : (c >= 'a' && c <= 'f') ? c - 'a' + 10 : base;
+    if (digit >= base) return Reading::NotNumber;
+    value = value * base + digit;
+    if (value > 0xFFFFFFFFull) return Reading::TooLarge;
+  }
+  if (value <= 0xFFFF) out = static_cast<int16_t>(static_cast<uint16_t>(value));
+  else out = static_cast<int32_t>(static_cast<uint32_t>(value));
+  return Reading::Number;
+}
+
+// The platform's reading of a number: blanks around it, a sign, a currency
+// "$" before or after the sign, digits with thousands separators, one decimal
+// point, an exponent with E or D.
+Reading readNumber(const std::string& raw, double& out) {
+  size_t begin = 0, end = raw.size();
+  while (begin < end && isBlank(raw[begin])) ++begin;
+  while (end > begin && isBlank(raw[end - 1])) --end;
+  if (begin == end) return Reading::NotNumber;
+  std::string text = raw.substr(begin, end - begin);
+  if (text[0] == '&') return readRadix(text, out);
+
+  std::string cleaned;
+  size_t i = 0;
+  if (text[i] == '$') ++i;
+  if (i < text.size() && (text[i] == '+' || text[i] == '-')) cleaned += text[i++];
+  if (i < text.size() && text[i] == '$' && text[0] != '$') ++i;
+  bool digits = false, point = false;
+  for (; i < text.size(); ++i) {
+    char c = text[i];
+    if (isDigit(c)) {
+      cleaned += c;
+      digits = true;
+    } else if (c == ',' && !point && digits) {
+      continue;
+    } else if (c == '.' && !point) {
+      cleaned += c;
+      point = true;
+    } else {
+      break;
+    }
+  }
+  if (!digits) return Reading::NotNumber;
+  char exponent = i < text.size() ? static_cast<char>(text[i] | 0x20) : '\0';
+  if (exponent == 'e' || exponent == 'd') {
+    cleaned += 'e';
+    size_t j = i + 1;
+    if (j < text.size() && (text[j] == '+' || text[j] == '-')) cleaned += text[j++];
+    size_t first = j;
+    while (j < text.size() && isDigit(text[j])) cleaned += text[j++];
+    if (j == first) return Reading::NotNumber;
+    i = j;
+  }
+  if (i != text.size()) return Reading::NotNumber;
+  // from_chars reads with "." whatever the process locale says.
+  size_t from = cleaned[0] == '+' ? 1 : 0;
+  double value = 0;
+  std::errc error = std::from_chars(cleaned.data() + from, cleaned.data() + cleaned.size(), value).ec;
+  if (error == std::errc::result_out_of_range) {
+    if (cleaned.find("e-") == std::string::npos) return Reading::TooLarge;
+    value = 0;  // too small to tell from zero
+  }
+  out = value;
+  return Reading::Number;
+}
+
+double numberFromText(const std::string& text) {
+  double number = 0;
+  Reading reading = readNumber(text, number);
+  if (reading == Reading::TooLarge) overflow();
+  if (reading == Reading::NotNumber) typeMismatch();
+  return number;
 }
 
 // The value of a number type, Boolean (True is -1), Date or numeric text.
@@ -49,16 +117,13 @@ double numberOf(const Variant& value) {
     case VarType::Long: return value.rawInt();
     case VarType::Double:
     case VarType::Date: return value.rawDouble();
-    case VarType::String: {
-      double number = 0;
-      if (!parseNumber(value.rawString(), number)) typeMismatch();
-      return number;
-    }
+    case VarType::String: return numberFromText(value.rawString());
   }
   typeMismatch();
 }
 
 // Rounds half to even, as the run-time does on conversion to an integer.
+// value - floor(value) is exact in binary, so only true halves tie.
 double roundHalfEven(double value) {
   double floor = std::floor(value);
   double diff = value - floor;
@@ -67,55 +132,14 @@ double roundHalfEven(double value) {
   return std::fmod(floor, 2.0) == 0 ? floor : floor + 1;
 }
 
+// Serials of 1 January 100 and of the last second of 31 December 9999.
+constexpr double kFirstSerial = -657434;
+constexpr double kLastSerial = 2958465.99999;
+
 }  // namespace
 
-bool parseNumber(const std::string& raw, double& out) {
-  size_t begin = 0, end = raw.size();
-  while (begin < end && isBlank(raw[begin])) ++begin;
-  while (end > begin && isBlank(raw[end - 1])) --end;
-  if (begin == end) return false;
-  std::string text = raw.substr(begin, end - begin);
-  if (parseRadix(text, out)) return true;
-
-  // Sign, digits with thousands separators, one decimal point, an exponent.
-  std::string cleaned;
-  size_t i = 0;
-  if (text[i] == '+' || text[i] == '-') cleaned += text[i++];
-  bool digits = false, point = false;
-  for (; i < text.size(); ++i) {
-    char c = text[i];
-    if (c >= '0' && c <= '9') {
-      cleaned += c;
-      digits = true;
-    } else if (c == ',' && !point && digits) {
-      continue;
-    } else if (c == '.' && !point) {
-      cleaned += c;
-      point = true;
-    } else {
-      break;
-    }
-  }
-  if (!digits) return false;
-  if (i < text.size() && (text[i] == 'e' || text[i] == 'E' || text[i] == 'd' || text[i] == 'D')) {
-    std::string exponent = "e";
-    size_t j = i + 1;
-    if (j < text.size() && (text[j] == '+' || text[j] == '-')) exponent += text[j++];
-    size_t expDigits = 0;
-    while (j < text.size() && text[j] >= '0' && text[j] <= '9') {
-      exponent += text[j++];
-      ++expDigits;
-    }
-    if (expDigits == 0) return false;
-    cleaned += exponent;
-    i = j;
-  }
-  if (i != text.size()) return false;
-  errno = 0;
-  double value = std::strtod(cleaned.c_str(), nullptr);
-  if (errno == ERANGE && std::isinf(value)) return false;
-  out = value;
-  return true;
+bool parseNumber(const std::string& text, double& out) {
+  return readNumber(text, out) == Reading::Number;
 }
 
 bool IsNumeric(const Variant& value) {
@@ -146,9 +170,7 @@ bool CBool(const Variant& value) {
       std::string text = Trim(value.rawString());
       if (equalsText(text, "True")) return true;
       if (equalsText(text, "False")) return false;
-      double number = 0;
-      if (!parseNumber(text, number)) typeMismatch();
-      return number != 0;
+      return numberFromText(text) != 0;
     }
     default: return numberOf(value) != 0;
   }
@@ -175,20 +197,26 @@ float CSng(const Variant& value) {
 double CDbl(const Variant& value) { return numberOf(value); }
 
 double CDate(const Variant& value) {
+  double serial = 0;
   if (value.isString()) {
-    double serial = 0;
-    if (parseDate(value.rawString(), serial)) return serial;
-    if (parseNumber(value.rawString(), serial)) return serial;
-    typeMismatch();
+    if (!parseDate(value.rawString(), serial)) typeMismatch();
+  } else {
+    serial = numberOf(value);
   }
-  return numberOf(value);
+  if (!(serial >= kFirstSerial && serial < kLastSerial + 0.00001)) overflow();
+  return serial;
 }
 
 std::string numberToText(double value) {
   if (value == 0 || std::isnan(value)) return "0";
+  // 15 significant digits, the exponent form as "1E+16" and "1E-05"; written
+  // with "." whatever the process locale says.
   char buffer[64];
-  std::snprintf(buffer, sizeof buffer, "%.15G", value);
-  return buffer;
+  auto end = std::to_chars(buffer, buffer + sizeof buffer, value, std::chars_format::general, 15).ptr;
+  std::string text(buffer, end);
+  size_t e = text.find('e');
+  if (e != std::string::npos) text[e] = 'E';
+  return text;
 }
 
 std::string CStr(const Variant& value) {
@@ -209,16 +237,18 @@ std::string toText(const Variant& value) { return value.isNull() ? std::string()
 
 double Round(double value, int decimals) {
   if (decimals < 0) throw RuntimeError(err::kInvalidCall, "Invalid procedure call or argument");
+  // A double this large has no fraction left to round.
+  if (!std::isfinite(value) || std::fabs(value) >= 4503599627370496.0) return value;
   if (decimals == 0) return roundHalfEven(value);
-  double scale = std::pow(10.0, decimals);
-  double scaled = value * scale;
-  if (std::isinf(scaled)) return value;
-  // The scaled value can land a hair off an exact half; read it at 15
-  // significant digits so that 0.125 * 100 still counts as a half.
-  char buffer[64];
-  std::snprintf(buffer, sizeof buffer, "%.15G", scaled);
-  double settled = std::strtod(buffer, nullptr);
-  return roundHalfEven(settled) / scale;
+  // to_chars writes the exact decimal value of the double rounded to the
+  // decimals, ties to even: 0.125 is a true half and gives 0.12, while 2.675
+  // is stored a hair below its half and gives 2.67.
+  char buffer[400];
+  auto end = std::to_chars(buffer, buffer + sizeof buffer, value, std::chars_format::fixed,
+                           decimals > 300 ? 300 : decimals).ptr;
+  double rounded = 0;
+  std::from_chars(buffer, end, rounded);
+  return rounded;
 }
 
 }  // namespace qb

@@ -41,6 +41,8 @@ const long long kEpochOffset = daysFromCivil(1899, 12, 30);
 const char* const kMonths[] = {"january", "february", "march",     "april",   "may",      "june",
                                "july",    "august",   "september", "october", "november", "december"};
 
+// A month name or its abbreviation of three letters or more ("Nov", "Sept");
+// 0 when the word is none.
 int monthFromName(const std::string& word) {
   std::string lower = LCase(word);
   if (lower.size() < 3) return 0;
@@ -48,38 +50,6 @@ int monthFromName(const std::string& word) {
     if (std::strncmp(kMonths[i], lower.c_str(), lower.size()) == 0) return i + 1;
   }
   return 0;
-}
-
-// Splits text into words of digits or letters; other characters separate.
-std::vector<std::string> words(const std::string& text) {
-  std::vector<std::string> result;
-  std::string current;
-  auto flush = [&] {
-    if (!current.empty()) result.push_back(current);
-    current.clear();
-  };
-  for (char c : text) {
-    bool digit = c >= '0' && c <= '9';
-    bool letter = (c | 0x20) >= 'a' && (c | 0x20) <= 'z';
-    if (!digit && !letter) {
-      flush();
-      continue;
-    }
-    if (!current.empty()) {
-      bool wasDigit = current.back() >= '0' && current.back() <= '9';
-      if (wasDigit != digit) flush();
-    }
-    current += c;
-  }
-  flush();
-  return result;
-}
-
-bool allDigits(const std::string& s) {
-  if (s.empty()) return false;
-  for (char c : s)
-    if (c < '0' || c > '9') return false;
-  return true;
 }
 
 bool validDate(int y, int m, int d) {
@@ -90,27 +60,141 @@ bool validDate(int y, int m, int d) {
   return true;
 }
 
-// Reads the time words from index i: h [m [s]] [am|pm].
-bool readTime(const std::vector<std::string>& w, size_t i, double& fraction) {
-  std::vector<int> parts;
-  int meridiem = 0;  // 1 am, 2 pm
-  for (; i < w.size(); ++i) {
-    if (allDigits(w[i]) && parts.size() < 3) {
-      parts.push_back(std::stoi(w[i]));
-    } else if (equalsText(w[i], "am") || equalsText(w[i], "a")) {
-      meridiem = 1;
-    } else if (equalsText(w[i], "pm") || equalsText(w[i], "p")) {
-      meridiem = 2;
-    } else if (equalsText(w[i], "t")) {
-      continue;
-    } else {
-      return false;
+// Two-digit years fall in 1930 to 2029, as the run-time reads them.
+int fullYear(int year, size_t digits) {
+  if (digits > 2) return year;
+  return year + (year < 30 ? 2000 : 1900);
+}
+
+// The text of a date in pieces: runs of digits, runs of letters, and the
+// characters between them. Blanks and commas between pieces count as one
+// blank separator.
+class DateScanner {
+ public:
+  enum class Kind { Number, Word, Separator, End };
+  struct Piece {
+    Kind kind;
+    std::string text;
+  };
+
+  explicit DateScanner(const std::string& text) {
+    for (size_t i = 0; i < text.size();) {
+      char c = text[i];
+      size_t j = i + 1;
+      if (isDigitChar(c)) {
+        while (j < text.size() && isDigitChar(text[j])) ++j;
+        pieces_.push_back({Kind::Number, text.substr(i, j - i)});
+      } else if (isLetter(c)) {
+        while (j < text.size() && isLetter(text[j])) ++j;
+        pieces_.push_back({Kind::Word, text.substr(i, j - i)});
+      } else if (c == ' ' || c == ',' || c == '\t') {
+        while (j < text.size() && (text[j] == ' ' || text[j] == ',' || text[j] == '\t')) ++j;
+        pieces_.push_back({Kind::Separator, " "});
+      } else {
+        pieces_.push_back({Kind::Separator, std::string(1, c)});
+      }
+      i = j;
     }
+    // Blanks around the whole text do not count.
+    if (!pieces_.empty() && pieces_.back().text == " ") pieces_.pop_back();
+    if (!pieces_.empty() && pieces_.front().text == " ") at_ = 1;
   }
-  if (parts.empty()) return false;
-  int h = parts[0], m = parts.size() > 1 ? parts[1] : 0, s = parts.size() > 2 ? parts[2] : 0;
+
+  const Piece& peek(size_t ahead = 0) const {
+    static const Piece kEnd{Kind::End, ""};
+    return at_ + ahead < pieces_.size() ? pieces_[at_ + ahead] : kEnd;
+  }
+  bool atEnd() const { return at_ >= pieces_.size(); }
+  void skip(size_t count = 1) { at_ += count; }
+
+  // Takes a number of at most maxDigits digits.
+  bool number(int& value, size_t maxDigits, size_t* digits = nullptr) {
+    const Piece& p = peek();
+    if (p.kind != Kind::Number || p.text.size() > maxDigits) return false;
+    value = std::stoi(p.text);
+    if (digits != nullptr) *digits = p.text.size();
+    skip();
+    return true;
+  }
+  // Takes a separator that is one of the characters given.
+  bool separator(const char* allowed, char* taken = nullptr) {
+    const Piece& p = peek();
+    if (p.kind != Kind::Separator || std::strchr(allowed, p.text[0]) == nullptr) return false;
+    if (taken != nullptr) *taken = p.text[0];
+    skip();
+    return true;
+  }
+  bool month(int& value) {
+    const Piece& p = peek();
+    if (p.kind != Kind::Word || (value = monthFromName(p.text)) == 0) return false;
+    skip();
+    separator(".");
+    return true;
+  }
+
+ private:
+  static bool isDigitChar(char c) { return c >= '0' && c <= '9'; }
+  static bool isLetter(char c) { return (c | 0x20) >= 'a' && (c | 0x20) <= 'z'; }
+
+  std::vector<Piece> pieces_;
+  size_t at_ = 0;
+};
+
+// The date part: "2026-11-23", "2026/11/23", "11/23/2026", "11-23-26",
+// "Nov 23, 2026", "November 23 2026", "23 Nov 2026", "23-Nov-2026".
+bool readDatePart(DateScanner& in, int& y, int& m, int& d) {
+  size_t digits = 0;
+  int first = 0;
+  char sep = 0;
+  auto year = [&] {
+    if (!in.number(y, 4, &digits)) return false;
+    y = fullYear(y, digits);
+    return true;
+  };
+  if (in.month(m)) {
+    in.separator(" -");
+    return in.number(d, 2) && in.separator(" -") && year();
+  }
+  if (!in.number(first, 4, &digits)) return false;
+  if (digits == 4) {
+    y = first;
+    return in.separator("-/", &sep) && in.number(m, 2) && in.separator(std::string(1, sep).c_str()) &&
+           in.number(d, 2);
+  }
+  d = first;
+  bool named = in.peek().kind == DateScanner::Kind::Word ||
+               (in.peek().kind == DateScanner::Kind::Separator && in.peek(1).kind == DateScanner::Kind::Word);
+  if (named) {
+    in.separator(" -");
+    return in.month(m) && (in.separator(" -"), year());
+  }
+  m = first;
+  return in.separator("/-", &sep) && in.number(d, 2) && in.separator(std::string(1, sep).c_str()) &&
+         year();
+}
+
+// The time part: "14:05", "14:05:00", "14:05:00.250", "2:05 PM", "2 pm".
+bool readTimePart(DateScanner& in, double& fraction) {
+  int h = 0, m = 0, s = 0, ignored = 0;
+  if (!in.number(h, 2)) return false;
+  bool colon = in.separator(":");
+  if (colon && !in.number(m, 2)) return false;
+  if (colon && in.separator(":")) {
+    if (!in.number(s, 2)) return false;
+    if (in.separator(".") && !in.number(ignored, 9)) return false;  // parts of a second
+  }
+  in.separator(" ");
+  int meridiem = 0;  // 1 am, 2 pm
+  if (in.peek().kind == DateScanner::Kind::Word) {
+    std::string word = LCase(in.peek().text);
+    if (word == "am" || word == "a") meridiem = 1;
+    else if (word == "pm" || word == "p") meridiem = 2;
+    else return false;
+    in.skip();
+  }
+  if (!in.atEnd() || (!colon && meridiem == 0)) return false;
   if (meridiem != 0) {
-    if (h < 1 || h > 12) return false;
+    if (h > 12) return false;
     h = h % 12 + (meridiem == 2 ? 12 : 0);
   }
   if (h > 23 || m > 59 || s > 59) return false;
@@ -121,7 +205,10 @@ bool readTime(const std::vector<std::string>& w, size_t i, double& fraction) {
 }  // namespace
 
 double DateSerial(int year, int month, int day) {
-  // Months outside 1..12 carry into the year, as the run-time allows.
+  // Years 0 to 99 stand for 1930 to 2029; months outside 1..12 carry into
+  // the year and days outside the month into the months, as the run-time
+  // allows.
+  if (year >= 0 && year <= 99) year = fullYear(year, 2);
   int m0 = month - 1;
   year += m0 >= 0 ? m0 / 12 : -((11 - m0) / 12);
   m0 = ((m0 % 12) + 12) % 12;
@@ -175,39 +262,29 @@ std::string dateToText(double serial) {
                   p.hour < 12 ? "AM" : "PM");
     time = buffer;
   }
-  if (std::trunc(serial) == 0 && hasTime) return time;
+  // Day 0 is no date at all: the value is a time of day, midnight included.
+  if (p.year == 1899 && p.month == 12 && p.day == 30) return hasTime ? time : "12:00:00 AM";
   std::snprintf(buffer, sizeof buffer, "%d/%d/%04d", p.month, p.day, p.year);
   return hasTime ? std::string(buffer) + " " + time : std::string(buffer);
 }
 
 bool parseDate(const std::string& text, double& serial) {
-  std::vector<std::string> w = words(text);
-  if (w.empty()) return false;
+  DateScanner in(text);
   int y = 0, m = 0, d = 0;
-  size_t next = 0;
-  if (w.size() >= 3 && allDigits(w[0]) && w[0].size() == 4 && allDigits(w[1]) && allDigits(w[2])) {
-    y = std::stoi(w[0]), m = std::stoi(w[1]), d = std::stoi(w[2]);  // 2026-11-23
-    next = 3;
-  } else if (w.size() >= 3 && allDigits(w[0]) && allDigits(w[1]) && allDigits(w[2]) &&
-             text.find('/') != std::string::npos) {
-    m = std::stoi(w[0]), d = std::stoi(w[1]), y = std::stoi(w[2]);  // 11/23/2026
-    if (w[2].size() <= 2) y += y < 30 ? 2000 : 1900;
-    next = 3;
-  } else if (w.size() >= 3 && monthFromName(w[0]) && allDigits(w[1]) && allDigits(w[2])) {
-    m = monthFromName(w[0]), d = std::stoi(w[1]), y = std::stoi(w[2]);  // Nov 23, 2026
-    next = 3;
-  } else if (w.size() >= 3 && allDigits(w[0]) && monthFromName(w[1]) && allDigits(w[2])) {
-    d = std::stoi(w[0]), m = monthFromName(w[1]), y = std::stoi(w[2]);  // 23 Nov 2026
-    next = 3;
-  } else {
-    double fraction = 0;
-    if (text.find(':') == std::string::npos || !readTime(w, 0, fraction)) return false;
+  double fraction = 0;
+  if (!readDatePart(in, y, m, d)) {
+    DateScanner timeOnly(text);
+    if (!readTimePart(timeOnly, fraction)) return false;
     serial = fraction;
     return true;
   }
   if (!validDate(y, m, d)) return false;
-  double fraction = 0;
-  if (next < w.size() && !readTime(w, next, fraction)) return false;
+  if (!in.atEnd()) {
+    bool t = in.peek().kind == DateScanner::Kind::Word && equalsText(in.peek().text, "T");
+    if (!t && !in.separator(" ")) return false;
+    if (t) in.skip();
+    if (!readTimePart(in, fraction)) return false;
+  }
   serial = DateSerial(y, m, d) + fraction;
   return true;
 }

@@ -2,6 +2,7 @@
 
 #include <langinfo.h>
 
+#include <charconv>
 #include <cmath>
 #include <cstdio>
 #include <string>
@@ -39,7 +40,13 @@ std::string twoDigits(int value) {
 
 // ---- date patterns -------------------------------------------------------
 
-enum class Tok { Literal, Day, Month, MonthOrMinute, Year, Hour, Minute, Second, AmPm };
+enum class Tok { Literal, Day, Month, MonthOrMinute, Year, Hour, Minute, Second, AmPm, Quarter, Week };
+
+bool isDateLetter(char c) {
+  char lower = static_cast<char>(c | 0x20);
+  return lower == 'd' || lower == 'm' || lower == 'y' || lower == 'h' || lower == 'n' ||
+         lower == 's' || lower == 'q' || lower == 'w';
+}
 
 struct Token {
   Tok kind;
@@ -78,14 +85,13 @@ std::vector<Token> tokenizeDate(const std::string& pattern) {
     } else if (startsWithText(pattern, i, "a/p")) {
       tokens.push_back({Tok::AmPm, 3, pattern.substr(i, 3)});
       i += 3;
-    } else if (lower == 'd' || lower == 'm' || lower == 'y' || lower == 'h' || lower == 'n' ||
-               lower == 's') {
+    } else if (isDateLetter(c)) {
       size_t j = i;
       while (j < pattern.size() && (pattern[j] | 0x20) == lower) ++j;
       int count = static_cast<int>(j - i);
       Tok kind = lower == 'd' ? Tok::Day : lower == 'm' ? (count <= 2 ? Tok::MonthOrMinute : Tok::Month)
                : lower == 'y' ? Tok::Year : lower == 'h' ? Tok::Hour : lower == 'n' ? Tok::Minute
-               : Tok::Second;
+               : lower == 's' ? Tok::Second : lower == 'q' ? Tok::Quarter : Tok::Week;
       tokens.push_back({kind, count, ""});
       i = j;
     } else {
@@ -118,11 +124,66 @@ bool isDatePattern(const std::string& pattern) {
     if (inQuote) continue;
     if (c == '\\') { ++i; continue; }
     if (c == '#' || c == '0') return false;
-    char lower = static_cast<char>(c | 0x20);
-    if (lower == 'd' || lower == 'm' || lower == 'y' || lower == 'h' || lower == 'n' || lower == 's')
-      dateLetter = true;
+    if (isDateLetter(c)) dateLetter = true;
   }
   return dateLetter;
+}
+
+std::string formatDate(double serial, const std::string& pattern);
+
+// Day of the year, 1 for 1 January.
+int dayOfYear(const DateParts& p) {
+  return static_cast<int>(DateSerial(p.year, p.month, p.day) - DateSerial(p.year, 1, 1)) + 1;
+}
+
+std::string digitsOf(int value, int count) { return count == 1 ? std::to_string(value) : twoDigits(value); }
+
+void appendDateToken(const Token& t, double serial, const DateParts& p, bool twelveHour, std::string& out) {
+  switch (t.kind) {
+    case Tok::Literal: out += t.text; break;
+    case Tok::Day:
+      if (t.count <= 2) out += digitsOf(p.day, t.count);
+      else if (t.count <= 4) out += dayName(p.weekday, t.count == 4);
+      else out += formatDate(serial, t.count == 5 ? "m/d/yyyy" : "dddd, mmmm d, yyyy");
+      break;
+    case Tok::Month:
+    case Tok::MonthOrMinute:
+      if (t.count <= 2) out += digitsOf(p.month, t.count);
+      else out += monthName(p.month, t.count >= 4);
+      break;
+    case Tok::Year:
+      if (t.count == 1) out += std::to_string(dayOfYear(p));
+      else if (t.count <= 3) out += twoDigits(p.year);
+      else out += std::to_string(p.year);
+      break;
+    case Tok::Hour: {
+      int hour = twelveHour ? (p.hour % 12 == 0 ? 12 : p.hour % 12) : p.hour;
+      out += digitsOf(hour, t.count);
+      break;
+    }
+    case Tok::Minute: out += digitsOf(p.minute, t.count); break;
+    case Tok::Second: out += digitsOf(p.second, t.count); break;
+    case Tok::Quarter: out += std::to_string((p.month - 1) / 3 + 1); break;
+    case Tok::Week: {
+      // "w" is the weekday (1 Sunday), "ww" the week of the year, the first
+      // week being the one of 1 January.
+      if (t.count == 1) {
+        out += std::to_string(p.weekday);
+      } else {
+        int firstWeekday = splitDate(DateSerial(p.year, 1, 1)).weekday;
+        out += std::to_string((dayOfYear(p) - 1 + firstWeekday - 1) / 7 + 1);
+      }
+      break;
+    }
+    case Tok::AmPm: {
+      // The marker takes the case written in the pattern: am/pm, AM/PM, a/p.
+      bool pm = p.hour >= 12;
+      const std::string& w = t.text;
+      if (t.count == 5) out += pm ? w.substr(3, 2) : w.substr(0, 2);
+      else out += pm ? w.substr(2, 1) : w.substr(0, 1);
+      break;
+    }
+  }
 }
 
 std::string formatDate(double serial, const std::string& pattern) {
@@ -132,47 +193,7 @@ std::string formatDate(double serial, const std::string& pattern) {
     if (t.kind == Tok::AmPm) twelveHour = true;
   DateParts p = splitDate(serial);
   std::string out;
-  for (const Token& t : tokens) {
-    switch (t.kind) {
-      case Tok::Literal: out += t.text; break;
-      case Tok::Day:
-        if (t.count == 1) out += std::to_string(p.day);
-        else if (t.count == 2) out += twoDigits(p.day);
-        else if (t.count == 3) out += dayName(p.weekday, false);
-        else out += dayName(p.weekday, true);
-        break;
-      case Tok::Month:
-      case Tok::MonthOrMinute:
-        if (t.count == 1) out += std::to_string(p.month);
-        else if (t.count == 2) out += twoDigits(p.month);
-        else if (t.count == 3) out += monthName(p.month, false);
-        else out += monthName(p.month, true);
-        break;
-      case Tok::Year:
-        if (t.count <= 2) out += twoDigits(p.year);
-        else out += std::to_string(p.year);
-        break;
-      case Tok::Hour: {
-        int hour = twelveHour ? (p.hour % 12 == 0 ? 12 : p.hour % 12) : p.hour;
-        out += t.count == 1 ? std::to_string(hour) : twoDigits(hour);
-        break;
-      }
-      case Tok::Minute: out += t.count == 1 ? std::to_string(p.minute) : twoDigits(p.minute); break;
-      case Tok::Second: out += t.count == 1 ? std::to_string(p.second) : twoDigits(p.second); break;
-      case Tok::AmPm: {
-        // The marker takes the case written in the pattern: am/pm, AM/PM, a/p.
-        bool pm = p.hour >= 12;
-        const std::string& w = t.text;
-        if (t.count == 5) {
-          std::string marker = pm ? w.substr(3, 2) : w.substr(0, 2);
-          out += marker;
-        } else {
-          out += pm ? w.substr(2, 1) : w.substr(0, 1);
-        }
-        break;
-      }
-    }
-  }
+  for (const Token& t : tokens) appendDateToken(t, serial, p, twelveHour, out);
   return out;
 }
 
@@ -243,14 +264,15 @@ std::string formatNumberSection(double value, const std::string& section) {
     if (c == '#') ++maxDecimals;
   }
 
-  // Format rounds half away from zero, unlike Round.
+  // Format rounds half away from zero, unlike Round, on the value read at 15
+  // significant digits (so 0.125 * 100 still counts as a half).
   double scaled = std::fabs(value) * std::pow(10.0, maxDecimals);
-  char settledText[64];
-  std::snprintf(settledText, sizeof settledText, "%.15G", scaled);
-  double rounded = std::round(std::strtod(settledText, nullptr));
-  char digitsText[400];
-  std::snprintf(digitsText, sizeof digitsText, "%.0f", rounded);
-  std::string digits = digitsText;
+  char text[400];
+  auto end = std::to_chars(text, text + sizeof text, scaled, std::chars_format::general, 15).ptr;
+  double settled = 0;
+  std::from_chars(text, end, settled);
+  end = std::to_chars(text, text + sizeof text, std::round(settled), std::chars_format::fixed, 0).ptr;
+  std::string digits(text, end);
   if (static_cast<int>(digits.size()) <= maxDecimals)
     digits.insert(0, static_cast<size_t>(maxDecimals) - digits.size() + 1, '0');
   std::string whole = digits.substr(0, digits.size() - maxDecimals);
@@ -292,15 +314,12 @@ std::string Format(const Variant& value, const std::string& pattern) {
   if (pattern.empty()) return CStr(value);
   if (isDatePattern(pattern)) {
     double serial = 0;
-    if (value.isString()) {
-      if (!parseDate(value.rawString(), serial) && !parseNumber(value.rawString(), serial))
-        return value.rawString();
-    } else if (value.isBoolean()) {
-      serial = value.rawBool() ? -1 : 0;
-    } else {
+    if (!value.isString()) {
       serial = CDbl(value);
+    } else if (!parseDate(value.rawString(), serial) && !parseNumber(value.rawString(), serial)) {
+      return value.rawString();
     }
-    return formatDate(serial, pattern);
+    return formatDate(CDate(Variant(serial)), pattern);
   }
   double number = 0;
   if (value.isString()) {

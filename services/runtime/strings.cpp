@@ -4,9 +4,16 @@
 #include <cstdint>
 #include <cstdio>
 
+#include "services/errors/runtime_error.h"
+
 namespace qb {
 
 namespace {
+
+// A position below 1 or a negative length, as the run-time refuses them.
+void checkArgument(bool valid) {
+  if (!valid) throw RuntimeError(err::kInvalidCall, "Invalid procedure call or argument");
+}
 
 // One decoded character: its code point and its byte length in the text.
 // A byte that starts no valid sequence counts as one character of its own.
@@ -64,14 +71,19 @@ std::vector<size_t> offsets(const std::string& s) {
   return result;
 }
 
-// Case mapping of the Latin letters: ASCII, Latin-1 and Latin Extended-A.
-// Both cases of each pair take the same number of bytes, so a folded text
-// keeps the byte offsets of the original.
+// Case mapping of the Latin letters: ASCII, Latin-1 and the pairs of Latin
+// Extended-A. Both cases of each pair take the same number of bytes, so a
+// folded text keeps the byte offsets of the original (which is why the dotted
+// and dotless i, U+0130 and U+0131, stay as they are).
+bool inPairRange(char32_t c) {
+  return (c >= 0x100 && c <= 0x12F) || (c >= 0x132 && c <= 0x137) || (c >= 0x14A && c <= 0x177);
+}
+
 char32_t toUpper(char32_t c) {
   if (c >= 'a' && c <= 'z') return c - 32;
   if ((c >= 0xE0 && c <= 0xFE && c != 0xF7)) return c - 32;
   if (c == 0xFF) return 0x178;
-  if ((c >= 0x100 && c <= 0x137) || (c >= 0x14A && c <= 0x177)) return c & ~char32_t{1};
+  if (inPairRange(c)) return c & ~char32_t{1};
   if ((c >= 0x139 && c <= 0x148) || (c >= 0x179 && c <= 0x17E)) return (c % 2 == 0) ? c - 1 : c;
   return c;
 }
@@ -80,7 +92,7 @@ char32_t toLower(char32_t c) {
   if (c >= 'A' && c <= 'Z') return c + 32;
   if ((c >= 0xC0 && c <= 0xDE && c != 0xD7)) return c + 32;
   if (c == 0x178) return 0xFF;
-  if ((c >= 0x100 && c <= 0x137) || (c >= 0x14A && c <= 0x177)) return c | 1;
+  if (inPairRange(c)) return c | 1;
   if ((c >= 0x139 && c <= 0x148) || (c >= 0x179 && c <= 0x17E)) return (c % 2 == 1) ? c + 1 : c;
   return c;
 }
@@ -135,7 +147,7 @@ int32_t Len(const std::string& text) {
 }
 
 std::string Mid(const std::string& text, int32_t start, int32_t count) {
-  if (start < 1) start = 1;
+  checkArgument(start >= 1 && count >= -1);
   if (isAscii(text)) {
     if (static_cast<size_t>(start) > text.size()) return "";
     return count < 0 ? text.substr(start - 1) : text.substr(start - 1, count);
@@ -148,11 +160,13 @@ std::string Mid(const std::string& text, int32_t start, int32_t count) {
 }
 
 std::string Left(const std::string& text, int32_t count) {
-  return count <= 0 ? std::string() : Mid(text, 1, count);
+  checkArgument(count >= 0);
+  return count == 0 ? std::string() : Mid(text, 1, count);
 }
 
 std::string Right(const std::string& text, int32_t count) {
-  if (count <= 0) return "";
+  checkArgument(count >= 0);
+  if (count == 0) return "";
   int32_t length = Len(text);
   return count >= length ? text : Mid(text, length - count + 1);
 }
@@ -174,10 +188,10 @@ std::string UCase(const std::string& text) { return mapCase(text, toUpper); }
 std::string LCase(const std::string& text) { return mapCase(text, toLower); }
 
 int32_t InStr(int32_t start, const std::string& text, const std::string& find, CompareMode mode) {
-  if (start < 1) start = 1;
+  checkArgument(start >= 1);
   std::vector<size_t> at = offsets(text);
   int32_t chars = static_cast<int32_t>(at.size() - 1);
-  if (start > chars + (find.empty() ? 1 : 0)) return 0;
+  if (start > chars) return 0;
   if (find.empty()) return start;
   const std::string& haystack = mode == CompareMode::Text ? fold(text) : text;
   const std::string& needle = mode == CompareMode::Text ? fold(find) : find;
