@@ -35,10 +35,14 @@ class SqliteDatabase : public DatabaseReference {
   // missing (unless options.create) or can't be opened.
   void open(const std::string& path, const Options& options);
   void open(const std::string& path) { open(path, Options{}); }
+  // Closes every open recordset and the file; nothing happens when none is open.
   void close();
+  // The open file; "" when none is open.
   const std::string& path() const;
-  // "wal" or "delete": the journal mode in force.
+  // "wal" or "delete": the journal mode in force; "" when no file is open.
   std::string journalMode() const;
+  // True when the file is open for reading only: every write then fails.
+  bool isReadOnly() const;
   // Runs a script of statements (schema creation, tests' set-up). Not part of
   // the system's interface: the system itself never changes data by SQL.
   void executeScript(const std::string& sql);

@@ -5,12 +5,16 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <filesystem>
+#include <functional>
 #include <memory>
 #include <string>
 
 #include "services/errors/runtime_error.h"
 #include "services/runtime/conversions.h"
+#include "services/runtime/dates.h"
 #include "services/store/sqlite_database.h"
+#include "services/store/sqlite_sql_text.h"
 #include "tests/support/temp_folder.h"
 
 namespace qb {
@@ -56,6 +60,15 @@ class StoreTest : public ::testing::Test {
       return error.number();
     }
     return 0;
+  }
+
+  std::string messageOf(const std::function<void()>& action) {
+    try {
+      action();
+    } catch (const RuntimeError& error) {
+      return error.description();
+    }
+    return "";
   }
 
   test::TempFolder folder;
@@ -174,22 +187,48 @@ TEST_F(StoreTest, FailuresAreRuntimeErrorsNeverCrashes) {
   EXPECT_EQ(errorOf([&] { store.moveFirstRecord(rs); }), err::kBadHandle);
   EXPECT_EQ(errorOf([&] { store.closeRecordset(12345); }), err::kBadHandle);
 
+  // Nothing open: every operation fails cleanly and no file appears.
   SqliteDatabase missing;
   EXPECT_FALSE(missing.isConnected());
   EXPECT_EQ(errorOf([&] { missing.openRecordset("SELECT 1;", 1, 1); }), err::kStoreError);
-  EXPECT_EQ(errorOf([&] { missing.open(folder.file("absent.db")); }), err::kStoreError);
+  EXPECT_EQ(errorOf([&] { missing.executeScript("CREATE TABLE T (A);"); }), err::kStoreError);
+  EXPECT_EQ(errorOf([&] { missing.getFieldValue(1, "A"); }), err::kBadHandle);
+  EXPECT_FALSE(missing.isRecordsetOpen(1));
+  EXPECT_EQ(messageOf([&] { missing.open(folder.file("absent.db")); }),
+            "The database file \"" + folder.file("absent.db") + "\" does not exist.");
+  EXPECT_FALSE(std::filesystem::exists(folder.file("absent.db")));
   EXPECT_FALSE(missing.isConnected());
   folder.writeFile("junk.db", std::string(4096, 'j'));
-  EXPECT_EQ(errorOf([&] { missing.open(folder.file("junk.db")); }), err::kStoreError);
+  EXPECT_EQ(messageOf([&] { missing.open(folder.file("junk.db")); }),
+            "The file \"" + folder.file("junk.db") + "\" is not a database.");
+  EXPECT_NE(messageOf([&] { store.openRecordset("SELEKT nonsense;", 1, 1); }).find("syntax error"),
+            std::string::npos);
 
   SqliteDatabase reader;
   SqliteDatabase::Options readOnly;
   readOnly.readOnly = true;
   reader.open(path, readOnly);
+  EXPECT_TRUE(reader.isReadOnly());
   rs = reader.openRecordset("SELECT Companies.* FROM Companies WHERE CompanyID=1;", 1, 3);
   reader.moveFirstRecord(rs);
-  EXPECT_EQ(errorOf([&] { reader.updateFieldValue(rs, "CompanyName", "X"); }), err::kStoreError);
+  EXPECT_NE(messageOf([&] { reader.updateFieldValue(rs, "CompanyName", "X"); }).find("reading only"),
+            std::string::npos);
+  EXPECT_EQ(reader.getFieldValue(rs, "CompanyName"), Variant("Acme"));
   EXPECT_EQ(direct("SELECT CompanyName FROM Companies WHERE CompanyID=1"), "Acme");
+}
+
+TEST_F(StoreTest, AFileThatMayNotBeWrittenOpensForReading) {
+  store.close();
+  std::filesystem::permissions(path, std::filesystem::perms::owner_read |
+                                         std::filesystem::perms::group_read |
+                                         std::filesystem::perms::others_read);
+  if (access(path.c_str(), W_OK) == 0) GTEST_SKIP() << "the file stays writable for this user";
+  SqliteDatabase reader;
+  reader.open(path);
+  EXPECT_TRUE(reader.isReadOnly());
+  RecordsetHandle rs = reader.openRecordset("SELECT Companies.* FROM Companies;", 1, 3);
+  EXPECT_EQ(reader.getRecordCount(rs), 3);
+  EXPECT_EQ(errorOf([&] { reader.updateFieldValue(rs, "CompanyName", "X"); }), err::kStoreError);
 }
 
 TEST_F(StoreTest, ABusyDatabaseIsReportedAndTwoProcessesLoseNoWrite) {
@@ -202,26 +241,43 @@ TEST_F(StoreTest, ABusyDatabaseIsReportedAndTwoProcessesLoseNoWrite) {
   quick.busyTimeoutMs = 50;
   impatient.open(path, quick);
   RecordsetHandle rs = impatient.openRecordset("SELECT Companies.* FROM Companies;", 1, 3);
-  impatient.moveFirstRecord(rs);
-  EXPECT_EQ(errorOf([&] { impatient.updateFieldValue(rs, "CompanyName", "Late"); }), err::kStoreError);
+  impatient.moveFirstRecord(rs);  // reading goes on beside the writer
+  try {
+    impatient.updateFieldValue(rs, "CompanyName", "Late");
+    ADD_FAILURE() << "the write went through a held lock";
+  } catch (const RuntimeError& error) {
+    EXPECT_EQ(error.number(), err::kStoreError);
+    EXPECT_NE(error.description().find("locked by another user or process"), std::string::npos);
+  }
+  EXPECT_EQ(impatient.getFieldValue(rs, "CompanyName"), Variant("Acme"));
   sqlite3_exec(holder, "ROLLBACK", nullptr, nullptr, nullptr);
   sqlite3_close(holder);
   impatient.close();
   store.close();
 
-  // Two processes add rows at once; every row arrives.
+  // Two processes add rows and count up a field of a row each, at once, with
+  // a short busy timeout; every row and every count arrives.
   const int perChild = 150;
   pid_t children[2];
   for (int c = 0; c < 2; ++c) {
     children[c] = fork();
     if (children[c] == 0) {
       SqliteDatabase writer;
-      writer.open(path);
+      SqliteDatabase::Options options;
+      options.busyTimeoutMs = 2000;
+      writer.open(path, options);
       RecordsetHandle h = writer.openRecordset("SELECT ClientData.* FROM ClientData;", 1, 3);
+      RecordsetHandle own = writer.openRecordset(
+          "SELECT Companies.CompanyID, Companies.Balance FROM Companies WHERE CompanyID=" +
+              std::to_string(c + 1) + ";", 1, 3);
+      writer.moveFirstRecord(own);
+      writer.updateFieldValue(own, "Balance", "0");
       for (int i = 0; i < perChild; ++i) {
         writer.addNewRecord(h);
         writer.setFieldValue(h, "Notes", "child " + std::to_string(c));
         writer.updateRecord(h);
+        writer.updateFieldValue(own, "Balance",
+                                std::to_string(CLng(writer.getFieldValue(own, "Balance")) + 1));
       }
       _exit(0);
     }
@@ -232,6 +288,132 @@ TEST_F(StoreTest, ABusyDatabaseIsReportedAndTwoProcessesLoseNoWrite) {
     EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0);
   }
   EXPECT_EQ(direct("SELECT count(*) FROM ClientData"), std::to_string(3 + 2 * perChild));
+  EXPECT_EQ(direct("SELECT group_concat(Balance) FROM Companies WHERE CompanyID<3"), "150,150");
+}
+
+TEST_F(StoreTest, ValuesFollowTheDeclaredTypes) {
+  store.executeScript(
+      "CREATE TABLE Ledger (LedgerID INTEGER PRIMARY KEY, Big INTEGER, Flag BOOLEAN, Amount REAL,"
+      " Posted DATETIME, Memo TEXT);"
+      "INSERT INTO Ledger VALUES (1, 5000000000, 1, 2.5, '2026-11-23 14:05:00', '12');");
+  RecordsetHandle rs = store.openRecordset(
+      "SELECT Ledger.*, Ledger.Amount * 2 AS Twice, 7 AS Seven FROM Ledger WHERE LedgerID=1;", 1, 3);
+  EXPECT_EQ(store.getFieldValue(rs, "Big"), Variant(5000000000.0));
+  EXPECT_EQ(store.getFieldValue(rs, "Posted"),
+            Variant::date(DateSerial(2026, 11, 23) + TimeSerial(14, 5, 0)));
+  EXPECT_EQ(store.getFieldValue(rs, "Memo"), Variant("12"));
+  EXPECT_EQ(store.getFieldValue(rs, "twice"), Variant(5.0));
+  EXPECT_EQ(store.getFieldValue(rs, "Seven"), Variant(int32_t{7}));
+  EXPECT_EQ(store.getFieldValue(rs, Variant(int32_t{1})), Variant(5000000000.0));  // by ordinal
+
+  store.updateFieldValue(rs, "Flag", "-1");
+  EXPECT_EQ(direct("SELECT Flag FROM Ledger"), "1");
+  store.updateFieldValue(rs, "Flag", "FALSE");
+  EXPECT_EQ(store.getFieldValue(rs, "Flag"), Variant(false));
+  store.updateFieldValue(rs, "Posted", "Nov 2, 2026");
+  EXPECT_EQ(direct("SELECT Posted FROM Ledger"), "2026-11-02");
+  EXPECT_EQ(store.getFieldValue(rs, "Posted"), Variant::date(DateSerial(2026, 11, 2)));
+  store.updateFieldValue(rs, "Big", "41.5");  // whole-number columns round half to even
+  EXPECT_EQ(store.getFieldValue(rs, "Big"), Variant(int32_t{42}));
+  store.updateFieldValue(rs, "Amount", "");
+  EXPECT_TRUE(store.getFieldValue(rs, "Amount").isNull());
+  EXPECT_EQ(direct("SELECT typeof(Amount) FROM Ledger"), "null");
+  store.updateFieldValue(rs, "Memo", "");
+  EXPECT_EQ(direct("SELECT typeof(Memo) FROM Ledger"), "text");
+  EXPECT_EQ(errorOf([&] { store.updateFieldValue(rs, "Amount", "lots"); }), err::kTypeMismatch);
+  EXPECT_EQ(errorOf([&] { store.updateFieldValue(rs, "Posted", "someday"); }), err::kTypeMismatch);
+  EXPECT_EQ(errorOf([&] { store.updateFieldValue(rs, "Twice", "1"); }), err::kReadOnly);
+  EXPECT_EQ(direct("SELECT Amount IS NULL FROM Ledger"), "1");
+}
+
+TEST_F(StoreTest, KeysInTheSqlTextBecomeParametersOfOneStatement) {
+  auto keyed = sqlite::takeOutKeys(
+      "SELECT T.A FROM T WHERE T.Custom1=5 AND B <> -12 AND C='x=3' AND D=1.5 -- E=7\n"
+      "AND F IN (1, 2) ORDER BY 1;");
+  EXPECT_EQ(keyed.text,
+            "SELECT T.A FROM T WHERE T.Custom1=? AND B <> ? AND C='x=3' AND D=1.5 -- E=7\n"
+            "AND F IN (1, 2) ORDER BY 1;");
+  EXPECT_EQ(keyed.keys, (std::vector<int64_t>{5, -12}));
+  EXPECT_EQ(sqlite::takeOutKeys("SELECT A FROM T WHERE A=? AND B=2;").keys.size(), 0u);
+
+  // One statement serves every key, and each open reads its own row.
+  const std::string lookup = "SELECT Companies.CompanyName FROM Companies WHERE CompanyID=";
+  RecordsetHandle first = store.openRecordset(lookup + "1;", 1, 1);
+  RecordsetHandle third = store.openRecordset(lookup + "3;", 1, 1);
+  RecordsetHandle none = store.openRecordset(lookup + "-1;", 1, 1);
+  EXPECT_GT(first, 0);
+  EXPECT_NE(first, third);
+  EXPECT_EQ(store.getFieldValue(first, "CompanyName"), Variant("Acme"));
+  EXPECT_EQ(store.getFieldValue(third, "CompanyName"), Variant("Côté & Fils"));
+  EXPECT_TRUE(store.isRecordsetEmpty(none));
+  EXPECT_EQ(store.openRecordsetCount(), 3);
+
+  // The rows of a recordset are fixed when it opens.
+  store.executeScript("INSERT INTO Companies (CompanyID, CompanyName) VALUES (9, 'Late');");
+  RecordsetHandle all = store.openRecordset("SELECT Companies.CompanyID FROM Companies;", 1, 1);
+  store.executeScript("INSERT INTO Companies (CompanyID, CompanyName) VALUES (10, 'Later');");
+  EXPECT_EQ(store.getRecordCount(all), 4);
+}
+
+TEST_F(StoreTest, NewRowsGoToTheTableOfTheirFields) {
+  store.executeScript(
+      "CREATE TABLE CompaniesNotes (CompaniesNotesID INTEGER PRIMARY KEY, CompanyNum INTEGER,"
+      " CompanyName TEXT, BusinessNotes TEXT DEFAULT 'none');"
+      "INSERT INTO CompaniesNotes VALUES (50, 1, 'shadow', 'n');");
+  // Two result columns of one name: the first wins.
+  RecordsetHandle both = store.openRecordset(
+      "SELECT Companies.*, CompaniesNotes.* FROM Companies INNER JOIN CompaniesNotes ON "
+      "Companies.CompanyID = CompaniesNotes.CompanyNum;", 1, 3);
+  EXPECT_EQ(store.getFieldValue(both, "CompanyName"), Variant("Acme"));
+  store.addNewRecord(both);
+  store.setFieldValue(both, "BusinessNotes", "x");
+  EXPECT_EQ(errorOf([&] { store.setFieldValue(both, "Founded", "2020-01-01"); }), err::kStoreError);
+  store.closeRecordset(both);
+
+  // No field set: a row of defaults in the one table, its key read back.
+  RecordsetHandle notes = store.openRecordset(
+      "SELECT CompaniesNotes.* FROM CompaniesNotes WHERE CompanyNum=2;", 1, 3);
+  ASSERT_TRUE(store.isRecordsetEmpty(notes));
+  store.addNewRecord(notes);
+  store.updateRecord(notes);
+  ASSERT_TRUE(store.moveFirstRecord(notes));
+  EXPECT_EQ(store.getFieldValue(notes, "CompaniesNotesID"), Variant(int32_t{51}));
+  EXPECT_EQ(store.getFieldValue(notes, "BusinessNotes"), Variant("none"));
+  store.updateFieldValue(notes, "CompanyNum", "2");
+  EXPECT_EQ(direct("SELECT CompanyNum FROM CompaniesNotes WHERE CompaniesNotesID=51"), "2");
+  EXPECT_EQ(direct("SELECT count(*) FROM CompaniesNotes"), "2");
+
+  // Positions count to 32767 and no further.
+  store.executeScript(
+      "WITH RECURSIVE n(i) AS (SELECT 100 UNION ALL SELECT i + 1 FROM n WHERE i < 40100)"
+      " INSERT INTO CompaniesNotes (CompaniesNotesID) SELECT i FROM n;");
+  RecordsetHandle many = store.openRecordset("SELECT CompaniesNotes.* FROM CompaniesNotes;", 1, 1);
+  ASSERT_TRUE(store.setRecordPosition(many, 32767));
+  EXPECT_EQ(store.getRecordPosition(many), 32767);
+  store.moveNextRecord(many);
+  EXPECT_EQ(errorOf([&] { store.getRecordPosition(many); }), err::kOverflow);
+}
+
+TEST_F(StoreTest, FindRecordComparesByValueAndSeesWritesOfOtherRecordsets) {
+  RecordsetHandle rs = store.openRecordset("SELECT Companies.* FROM Companies;", 1, 1);
+  EXPECT_TRUE(store.findRecord(rs, "Balance", "10.50"));
+  EXPECT_EQ(store.getFieldValue(rs, "CompanyName"), Variant("Acme"));
+  EXPECT_TRUE(store.findRecord(rs, "Balance", "0"));
+  EXPECT_EQ(store.getFieldValue(rs, "CompanyID"), Variant(int32_t{3}));
+  EXPECT_TRUE(store.findRecord(rs, "Founded", "Feb 3, 2001"));
+  EXPECT_TRUE(store.findRecord(rs, "CompanyName", "CÔTÉ & FILS"));
+  EXPECT_FALSE(store.findRecord(rs, "Balance", "abc"));
+  EXPECT_EQ(errorOf([&] { store.findRecord(rs, "Nope", "1"); }), err::kItemNotFound);
+
+  // A write through another recordset reaches this one's values and finds.
+  RecordsetHandle writer = store.openRecordset(
+      "SELECT Companies.CompanyID, Companies.CompanyName FROM Companies WHERE CompanyID=1;", 1, 3);
+  store.updateFieldValue(writer, "CompanyName", "Apex");
+  EXPECT_FALSE(store.findRecord(rs, "CompanyName", "Acme"));
+  ASSERT_TRUE(store.findRecord(rs, "CompanyName", "apex"));
+  EXPECT_EQ(store.getFieldValue(rs, "CompanyID"), Variant(int32_t{1}));
+  store.moveNextRecord(rs);
+  EXPECT_EQ(store.getFieldValue(rs, "CompanyName"), Variant("Bolt"));
 }
 
 }  // namespace

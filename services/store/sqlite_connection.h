@@ -1,0 +1,91 @@
+#pragma once
+// The store's SQLite connection: opening the file with the journal that suits
+// where it lies, the caches of prepared statements, the tables met so far with
+// a count of the writes made to each, and the write transaction.
+
+#include <sqlite3.h>
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <unordered_map>
+#include <vector>
+
+#include "services/store/sqlite_database.h"
+#include "services/store/sqlite_lru_cache.h"
+#include "services/store/sqlite_sql_text.h"
+#include "services/store/sqlite_statement.h"
+
+namespace qb::sqlite {
+
+struct QueryShape;
+
+// True for the file system types on which WAL can't work: NFS, SMB, CIFS,
+// SMB2 and FUSE (sshfs and its kind).
+bool isNetworkFileSystem(const std::string& path);
+
+class Connection {
+ public:
+  // Opens the file; fails with a RuntimeError (kStoreError) when it is
+  // missing (unless options.create), can't be opened or is no database.
+  Connection(const std::string& path, const SqliteDatabase::Options& options);
+  ~Connection();
+  Connection(const Connection&) = delete;
+  Connection& operator=(const Connection&) = delete;
+
+  sqlite3* db() const { return db_; }
+  const std::string& path() const { return path_; }
+  const std::string& journalMode() const { return journalMode_; }
+  int busyTimeoutMs() const { return busyTimeoutMs_; }
+  bool readOnly() const { return readOnly_; }
+
+  // Runs a script of statements. Every table counts as written.
+  void executeScript(const std::string& sql);
+
+  // The shape of a query, prepared once for each text with its keys taken
+  // out and kept among the most recently used.
+  std::shared_ptr<QueryShape> shapeOf(const std::string& textWithoutKeys);
+  // A statement the store composes itself (a write, a re-read of one row),
+  // prepared once for each text.
+  sqlite3_stmt* statement(const std::string& sql);
+
+  // Runs body inside BEGIN IMMEDIATE ... COMMIT; a failure of the body or of
+  // the commit rolls back and passes the failure on. Fails at once on a
+  // database open for reading only.
+  template <typename Body>
+  void writeTransaction(Body&& body) {
+    beginWrite();
+    try {
+      body();
+      commitWrite();
+    } catch (...) {
+      rollbackWrite();
+      throw;
+    }
+  }
+
+  // A table by its name, the same number for every spelling of it.
+  int tableId(const std::string& name);
+  // How many writes this connection has committed to the table.
+  uint64_t version(int tableId) const { return versions_[tableId]; }
+  void noteWrite(int tableId) { ++versions_[tableId]; }
+
+ private:
+  void beginWrite();
+  void commitWrite();
+  void rollbackWrite();
+  void exec(const char* sql, const std::string& context);
+  void setJournal(const std::string& path);
+
+  sqlite3* db_ = nullptr;
+  std::string path_;
+  std::string journalMode_;
+  int busyTimeoutMs_ = 5000;
+  bool readOnly_ = false;
+  LruCache<QueryShape> shapes_{256};
+  LruCache<Statement> statements_{128};
+  std::unordered_map<std::string, int> tableIds_;  // by name in upper case
+  std::vector<uint64_t> versions_;
+};
+
+}  // namespace qb::sqlite
