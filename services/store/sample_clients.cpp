@@ -135,17 +135,33 @@ std::string lower(std::string text) {
   return text;
 }
 
+// The letters of a name as an e-mail address takes them: accents dropped,
+// blanks, apostrophes and hyphens left out, lower case.
+std::string mailName(const std::string& name) {
+  static const std::pair<const char*, char> accents[] = {
+      {"é", 'e'}, {"è", 'e'}, {"ê", 'e'}, {"ë", 'e'}, {"É", 'e'}, {"à", 'a'}, {"â", 'a'},
+      {"ç", 'c'}, {"î", 'i'}, {"ï", 'i'}, {"ô", 'o'}, {"ö", 'o'}, {"û", 'u'}, {"ü", 'u'}};
+  std::string out;
+  for (size_t i = 0; i < name.size();) {
+    bool folded = false;
+    for (const auto& [accented, plain] : accents) {
+      if (name.compare(i, std::char_traits<char>::length(accented), accented) == 0) {
+        out += plain;
+        i += std::char_traits<char>::length(accented);
+        folded = true;
+        break;
+      }
+    }
+    if (folded) continue;
+    char c = name[i++];
+    if (static_cast<unsigned char>(c) < 0x80 && c != '\'' && c != '-' && c != ' ') out += c;
+  }
+  return lower(out);
+}
+
 std::string emailOf(const SampleContact& c) {
   std::string domain = c.company >= 0 ? sampleCompany(c.company).domain : "mail.example";
-  std::string user;
-  for (const char* p = c.first; *p != '\0'; ++p) {
-    if (static_cast<unsigned char>(*p) < 0x80 && *p != '\'' && *p != '-') user += *p;
-  }
-  user += ".";
-  for (const char* p = c.last; *p != '\0'; ++p) {
-    if (static_cast<unsigned char>(*p) < 0x80 && *p != '\'') user += *p;
-  }
-  return lower(user) + "@" + domain;
+  return mailName(c.first) + "." + mailName(c.last) + "@" + domain;
 }
 
 std::string faxOf(const SampleCompany& c) {
