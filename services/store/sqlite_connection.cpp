@@ -5,6 +5,7 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <cctype>
 #include <filesystem>
 
 #include "services/errors/runtime_error.h"
@@ -42,7 +43,8 @@ bool isNetworkFileSystem(const std::string& path) {
     case 0xFE534D42UL:  // SMB2
     case 0x65735546UL:  // FUSE (sshfs)
       return true;
-    default: return false;
+    default:
+      return false;
   }
 }
 

@@ -89,7 +89,9 @@ bool SqliteDatabase::isReadOnly() const {
   return impl_->connection && impl_->connection->readOnly();
 }
 
-int SqliteDatabase::openRecordsetCount() const { return static_cast<int>(impl_->recordsets.size()); }
+int SqliteDatabase::openRecordsetCount() const {
+  return static_cast<int>(impl_->recordsets.size());
+}
 
 void SqliteDatabase::executeScript(const std::string& sql) {
   guarded([&] { impl_->connected().executeScript(sql); });

@@ -20,8 +20,8 @@ const char* orEmpty(const char* text) { return text != nullptr ? text : ""; }
 
 // The table's one integer primary key column; "" when it has none or several.
 std::string integerPrimaryKey(Connection& connection, const std::string& table) {
-  sqlite3_stmt* info = connection.statement(
-      "SELECT name, type FROM pragma_table_info(?) WHERE pk > 0;");
+  sqlite3_stmt* info =
+      connection.statement("SELECT name, type FROM pragma_table_info(?) WHERE pk > 0;");
   StatementUse use(info);
   sqlite3_bind_text(info, 1, table.c_str(), -1, SQLITE_TRANSIENT);
   std::string key;
@@ -140,8 +140,8 @@ std::shared_ptr<QueryShape> QueryShape::prepare(Connection& connection, const st
     for (const std::string& column : table.sourceColumns) {
       list += (list.empty() ? "" : ", ") + quoted(column);
     }
-    table.rereadSql = "SELECT " + list + " FROM " + quoted(table.name) + " WHERE " +
-                      table.keyColumn + "=?;";
+    table.rereadSql =
+        "SELECT " + list + " FROM " + quoted(table.name) + " WHERE " + table.keyColumn + "=?;";
   }
   return shape;
 }

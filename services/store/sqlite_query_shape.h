@@ -31,19 +31,20 @@ struct ShapeColumn {
 };
 
 struct ShapeTable {
-  int tableId = 0;                 // the connection's number for the table
+  int tableId = 0;  // the connection's number for the table
   std::string name;
-  std::string keyColumn;           // "rowid" or the integer primary key; "" when rows can't be identified
-  int keyField = -1;               // the statement column that holds a row's key
+  std::string keyColumn;  // "rowid" or the integer primary key; "" when rows can't be identified
+  int keyField = -1;      // the statement column that holds a row's key
   std::vector<std::string> sourceColumns;  // the table's columns that the result reads
   std::vector<FieldKind> sourceKinds;
-  std::string rereadSql;           // SELECT sourceColumns FROM table WHERE key=?
+  std::string rereadSql;  // SELECT sourceColumns FROM table WHERE key=?
 
   bool identifiesRows() const { return keyField >= 0; }
 };
 
 struct QueryShape {
-  Statement statement;  // what runs: the query with the rowid columns in front, when they could be put there
+  Statement statement;  // what runs: the query with the rowid columns in front, when they could be
+                        // put there
   int leading = 0;      // how many such columns stand in front of the result's own
   std::vector<ShapeColumn> columns;
   std::vector<ShapeTable> tables;

@@ -14,10 +14,12 @@ Recordset::Recordset(Connection& connection, std::shared_ptr<const QueryShape> s
       tableCount_(shape_->tables.size()),
       seen_(tableCount_),
       rowsByKey_(tableCount_) {
-  for (size_t t = 0; t < tableCount_; ++t) seen_[t] = connection_.version(shape_->tables[t].tableId);
+  for (size_t t = 0; t < tableCount_; ++t)
+    seen_[t] = connection_.version(shape_->tables[t].tableId);
   sqlite3_stmt* stmt = shape_->statement.get();
   StatementUse use(stmt);
-  for (size_t i = 0; i < keys.size(); ++i) sqlite3_bind_int64(stmt, static_cast<int>(i + 1), keys[i]);
+  for (size_t i = 0; i < keys.size(); ++i)
+    sqlite3_bind_int64(stmt, static_cast<int>(i + 1), keys[i]);
   int rc;
   while ((rc = sqlite3_step(stmt)) == SQLITE_ROW) {
     for (size_t t = 0; t < tableCount_; ++t) {
@@ -36,7 +38,8 @@ Recordset::Recordset(Connection& connection, std::shared_ptr<const QueryShape> s
     }
     ++rows_;
   }
-  if (rc != SQLITE_DONE) fail(connection_.db(), rc, connection_.busyTimeoutMs(), "Can't run the query");
+  if (rc != SQLITE_DONE)
+    fail(connection_.db(), rc, connection_.busyTimeoutMs(), "Can't run the query");
 }
 
 bool Recordset::moveFirst() {
@@ -68,7 +71,8 @@ int Recordset::columnOf(const Variant& name) const {
   if (name.isString()) return shape_->fieldIndex(name.rawString());
   if (name.isNumberType()) {
     double ordinal = CDbl(name);
-    if (ordinal >= 0 && ordinal < static_cast<double>(columnCount_)) return static_cast<int>(ordinal);
+    if (ordinal >= 0 && ordinal < static_cast<double>(columnCount_))
+      return static_cast<int>(ordinal);
   }
   return -1;
 }
@@ -105,7 +109,8 @@ const Variant* Recordset::freshValue(size_t row, int column) {
     RowKey& key = keyOf(row, table);
     if (key.deleted) return nullptr;
     uint64_t now = connection_.version(shape_->tables[table].tableId);
-    if (key.known && key.loaded != now && seen_[table] != now && !reread(row, table)) return nullptr;
+    if (key.known && key.loaded != now && seen_[table] != now && !reread(row, table))
+      return nullptr;
   }
   return &values_[row * columnCount_ + column];
 }
@@ -121,7 +126,8 @@ bool Recordset::reread(size_t row, int table) {
     key.deleted = true;
     return false;
   }
-  if (rc != SQLITE_ROW) fail(connection_.db(), rc, connection_.busyTimeoutMs(), "Can't read the row");
+  if (rc != SQLITE_ROW)
+    fail(connection_.db(), rc, connection_.busyTimeoutMs(), "Can't read the row");
   for (size_t c = 0; c < columnCount_; ++c) {
     const ShapeColumn& column = shape_->columns[c];
     if (column.table != table) continue;

@@ -52,7 +52,8 @@ class Recordset {
   struct RowKey {
     int64_t key = 0;
     uint64_t loaded = 0;  // the table's write count when the values were read
-    bool known = false;   // false: the row has no row of this table (outer join) or it can't be identified
+    bool known =
+        false;  // false: the row has no row of this table (outer join) or it can't be identified
     bool deleted = false;
   };
   struct NewRow {

@@ -29,13 +29,18 @@ std::string numberKey(double number) {
 // The key of a stored value; "" for Null, which equals nothing.
 std::string valueKey(const Variant& value) {
   switch (value.type()) {
-    case VarType::Boolean: return value.rawBool() ? "b:1" : "b:0";
+    case VarType::Boolean:
+      return value.rawBool() ? "b:1" : "b:0";
     case VarType::Integer:
-    case VarType::Long: return numberKey(value.rawInt());
+    case VarType::Long:
+      return numberKey(value.rawInt());
     case VarType::Double:
-    case VarType::Date: return numberKey(value.rawDouble());
-    case VarType::String: return "s:" + UCase(value.rawString());
-    default: return "";
+    case VarType::Date:
+      return numberKey(value.rawDouble());
+    case VarType::String:
+      return "s:" + UCase(value.rawString());
+    default:
+      return "";
   }
 }
 

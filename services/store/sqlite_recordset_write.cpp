@@ -37,12 +37,14 @@ void Recordset::updateField(const std::string& name, const std::string& value) {
   const ShapeColumn& field = shape_->columns[column];
   RowKey key = keyOf(position_, table);
   if (key.deleted) noCurrentRecord();
-  if (!key.known) notUpdatable(field.name, "the current row has no row of " + shape_->tables[table].name + ".");
+  if (!key.known)
+    notUpdatable(field.name, "the current row has no row of " + shape_->tables[table].name + ".");
   SqlValue written = fromText(value, field.kind, field.name);
 
   const ShapeTable& target = shape_->tables[table];
   std::string sql = "UPDATE " + quoted(target.name) + " SET " +
-                    quoted(target.sourceColumns[field.source]) + "=? WHERE " + target.keyColumn + "=?;";
+                    quoted(target.sourceColumns[field.source]) + "=? WHERE " + target.keyColumn +
+                    "=?;";
   int changed = 0;
   connection_.writeTransaction([&] {
     sqlite3_stmt* stmt = connection_.statement(sql);
@@ -177,7 +179,8 @@ bool Recordset::deleteCurrent() {
   requireWritable();
   requireCurrent();
   if (tableCount_ != 1) {
-    throw RuntimeError(err::kReadOnly, "A row of a recordset over several tables can't be deleted.");
+    throw RuntimeError(err::kReadOnly,
+                       "A row of a recordset over several tables can't be deleted.");
   }
   const int table = 0;
   if (!shape_->tables[table].identifiesRows()) {

@@ -6,6 +6,8 @@ namespace qb::sqlite {
 
 namespace {
 
+// Integer: digits only; Number: any other numeric literal; Literal: quoted
+// text or a quoted identifier.
 enum class Token { Space, Word, Integer, Number, Literal, Comparison, Minus, Parameter, Other, End };
 
 bool isWordChar(char c) {
@@ -102,10 +104,12 @@ class Scanner {
       return Token::Comparison;
     }
     if (c == '<' || c == '>' || c == '!') {
+      if ((c == '<' && n == '<') || (c == '>' && n == '>')) {  // shifts
+        at_ += 2;
+        return Token::Other;
+      }
       bool comparison = c != '!' || n == '=';
-      if (n == '=' || (c == '<' && n == '>')) at_ += 2;
-      else if ((c == '<' && n == '<') || (c == '>' && n == '>')) return at_ += 2, Token::Other;
-      else ++at_;
+      at_ += n == '=' || (c == '<' && n == '>') ? 2 : 1;
       return comparison ? Token::Comparison : Token::Other;
     }
     ++at_;

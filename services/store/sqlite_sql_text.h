@@ -16,8 +16,8 @@
 namespace qb::sqlite {
 
 struct KeyedSql {
-  std::string text;             // the SQL with "?" for each key taken out
-  std::vector<int64_t> keys;    // the keys, in the order of their parameters
+  std::string text;           // the SQL with "?" for each key taken out
+  std::vector<int64_t> keys;  // the keys, in the order of their parameters
 };
 
 // The SQL with the keys of its comparisons taken out as parameters. A text

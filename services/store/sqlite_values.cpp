@@ -3,6 +3,7 @@
 #include <cmath>
 #include <cstdio>
 #include <cstring>
+#include <initializer_list>
 
 #include "services/errors/runtime_error.h"
 #include "services/runtime/conversions.h"
@@ -79,10 +80,13 @@ bool readIsoDate(std::string_view text, double& serial) {
     if ((text[10] != ' ' && text[10] != 'T') || text.size() < 16 || text[13] != ':') return false;
     hour = digits(text, 11, 2);
     minute = digits(text, 14, 2);
-    if (text.size() >= 19 && text[16] == ':') second = digits(text, 17, 2);
-    else if (text.size() != 16) return false;
+    if (text.size() >= 19 && text[16] == ':')
+      second = digits(text, 17, 2);
+    else if (text.size() != 16)
+      return false;
     if (text.size() > 19) return false;
-    if (hour < 0 || hour > 23 || minute < 0 || minute > 59 || second < 0 || second > 59) return false;
+    if (hour < 0 || hour > 23 || minute < 0 || minute > 59 || second < 0 || second > 59)
+      return false;
   }
   serial = DateSerial(year, month, day) + TimeSerial(hour, minute, second);
   return true;
@@ -105,7 +109,8 @@ Variant makeVariant(int type, int64_t integer, double real, std::string_view tex
     case FieldKind::Double:
       if (isText) return numberOrText(text, kind);
       if (type == SQLITE_INTEGER) {
-        return kind == FieldKind::Long ? wholeNumber(integer) : Variant(static_cast<double>(integer));
+        return kind == FieldKind::Long ? wholeNumber(integer)
+                                       : Variant(static_cast<double>(integer));
       }
       return Variant(real);
     case FieldKind::Boolean:
@@ -129,8 +134,8 @@ Variant makeVariant(int type, int64_t integer, double real, std::string_view tex
 }
 
 [[noreturn]] void mismatch(const std::string& text, const std::string& fieldName) {
-  throw RuntimeError(err::kTypeMismatch,
-                     "Type mismatch: \"" + text + "\" can't be stored in the field " + fieldName + ".");
+  throw RuntimeError(err::kTypeMismatch, "Type mismatch: \"" + text +
+                                             "\" can't be stored in the field " + fieldName + ".");
 }
 
 }  // namespace
@@ -142,8 +147,8 @@ FieldKind kindOfDeclaredType(const char* declaredType) {
   if (contains(type, "DATE") || contains(type, "TIME")) return FieldKind::Date;
   if (containsAny(type, {"CHAR", "TEXT", "CLOB", "MEMO", "STRING"})) return FieldKind::Text;
   if (containsAny(type, {"INT", "LONG", "COUNTER"})) return FieldKind::Long;
-  if (containsAny(type, {"REAL", "DOUB", "FLOA", "CURRENCY", "MONEY", "NUMERIC", "DECIMAL",
-                         "SINGLE"})) {
+  if (containsAny(type,
+                  {"REAL", "DOUB", "FLOA", "CURRENCY", "MONEY", "NUMERIC", "DECIMAL", "SINGLE"})) {
     return FieldKind::Double;
   }
   return FieldKind::Untyped;
@@ -152,8 +157,10 @@ FieldKind kindOfDeclaredType(const char* declaredType) {
 Variant columnVariant(sqlite3_stmt* stmt, int i, FieldKind kind) {
   int type = sqlite3_column_type(stmt, i);
   switch (type) {
-    case SQLITE_INTEGER: return makeVariant(type, sqlite3_column_int64(stmt, i), 0, {}, kind);
-    case SQLITE_FLOAT: return makeVariant(type, 0, sqlite3_column_double(stmt, i), {}, kind);
+    case SQLITE_INTEGER:
+      return makeVariant(type, sqlite3_column_int64(stmt, i), 0, {}, kind);
+    case SQLITE_FLOAT:
+      return makeVariant(type, 0, sqlite3_column_double(stmt, i), {}, kind);
     case SQLITE_TEXT:
     case SQLITE_BLOB: {
       const char* text = type == SQLITE_TEXT
@@ -162,7 +169,8 @@ Variant columnVariant(sqlite3_stmt* stmt, int i, FieldKind kind) {
       int bytes = sqlite3_column_bytes(stmt, i);
       return makeVariant(type, 0, 0, std::string_view(text ? text : "", text ? bytes : 0), kind);
     }
-    default: return Variant::null();
+    default:
+      return Variant::null();
   }
 }
 
@@ -211,19 +219,26 @@ SqlValue fromText(const std::string& text, FieldKind kind, const std::string& fi
       value.text = isoDate(serial);
       return value;
     }
-    default: return value;
+    default:
+      return value;
   }
 }
 
 void bindValue(sqlite3_stmt* stmt, int i, const SqlValue& value) {
   switch (value.type) {
-    case SQLITE_INTEGER: sqlite3_bind_int64(stmt, i, value.integer); break;
-    case SQLITE_FLOAT: sqlite3_bind_double(stmt, i, value.real); break;
+    case SQLITE_INTEGER:
+      sqlite3_bind_int64(stmt, i, value.integer);
+      break;
+    case SQLITE_FLOAT:
+      sqlite3_bind_double(stmt, i, value.real);
+      break;
     case SQLITE_TEXT:
       sqlite3_bind_text(stmt, i, value.text.data(), static_cast<int>(value.text.size()),
                         SQLITE_TRANSIENT);
       break;
-    default: sqlite3_bind_null(stmt, i); break;
+    default:
+      sqlite3_bind_null(stmt, i);
+      break;
   }
 }
 

@@ -1,5 +1,7 @@
 // The SQLite store's semantics and failures, on real database files.
 
+#include "services/store/sqlite_database.h"
+
 #include <gtest/gtest.h>
 #include <sqlite3.h>
 #include <sys/wait.h>
@@ -13,7 +15,6 @@
 #include "services/errors/runtime_error.h"
 #include "services/runtime/conversions.h"
 #include "services/runtime/dates.h"
-#include "services/store/sqlite_database.h"
 #include "services/store/sqlite_sql_text.h"
 #include "tests/support/temp_folder.h"
 
@@ -32,9 +33,11 @@ class StoreTest : public ::testing::Test {
         " Balance CURRENCY, Founded DATE);"
         "CREATE TABLE ClientData (ClientDataID INTEGER PRIMARY KEY, CompanyIDNum INTEGER,"
         " ShowThisClient BOOLEAN, Notes TEXT);"
-        "INSERT INTO Companies VALUES (1, 'Acme', 1, 10.5, '2001-02-03'), (2, 'Bolt', 0, NULL, NULL),"
+        "INSERT INTO Companies VALUES (1, 'Acme', 1, 10.5, '2001-02-03'), (2, 'Bolt', 0, NULL, "
+        "NULL),"
         " (3, 'Côté & Fils', 1, 0, NULL);"
-        "INSERT INTO ClientData VALUES (10, 1, 1, 'first'), (20, 2, 0, NULL), (30, 3, 1, 'third');");
+        "INSERT INTO ClientData VALUES (10, 1, 1, 'first'), (20, 2, 0, NULL), (30, 3, 1, "
+        "'third');");
   }
 
   // A value read straight from the file, bypassing the store.
@@ -80,7 +83,8 @@ TEST_F(StoreTest, ReadsTypedValuesWalksAndRefusesWritesWhenReadOnly) {
   EXPECT_EQ(store.journalMode(), "wal");
   RecordsetHandle rs = store.openRecordset(
       "SELECT Companies.CompanyID, Companies.CompanyName, Companies.Active, Companies.Balance, "
-      "Companies.Founded FROM Companies WHERE CompanyID = 1;", 1, 1);
+      "Companies.Founded FROM Companies WHERE CompanyID = 1;",
+      1, 1);
   ASSERT_TRUE(store.moveFirstRecord(rs));
   EXPECT_EQ(store.getFieldValue(rs, "companyname"), Variant("Acme"));
   EXPECT_EQ(store.getFieldValue(rs, "CompanyID"), Variant(int32_t{1}));
@@ -96,7 +100,8 @@ TEST_F(StoreTest, ReadsTypedValuesWalksAndRefusesWritesWhenReadOnly) {
   rs = store.openRecordset(
       "SELECT Companies.*, ClientData.* FROM (Companies INNER JOIN ClientData ON "
       "Companies.CompanyID = ClientData.CompanyIDNum) WHERE ClientData.ShowThisClient = True AND "
-      "Not ClientData.Notes Is Null ORDER BY Companies.CompanyName;", 1, 1);
+      "Not ClientData.Notes Is Null ORDER BY Companies.CompanyName;",
+      1, 1);
   EXPECT_EQ(store.getRecordCount(rs), 2);
   std::string names;
   for (store.moveFirstRecord(rs); !store.isEndOfRecordset(rs); store.moveNextRecord(rs))
@@ -137,7 +142,8 @@ TEST_F(StoreTest, WritesGoToTheRightRowOfTheRightTableAndReadBackEverywhere) {
   // Another recordset open on the same row reads the new value.
   ASSERT_TRUE(store.findRecord(other, "ClientDataID", "20"));
   EXPECT_EQ(store.getFieldValue(other, "Notes"), Variant("second"));
-  EXPECT_EQ(errorOf([&] { store.updateFieldValue(rs, "ShowThisClient", "perhaps"); }), err::kTypeMismatch);
+  EXPECT_EQ(errorOf([&] { store.updateFieldValue(rs, "ShowThisClient", "perhaps"); }),
+            err::kTypeMismatch);
   store.closeRecordset(rs);
   store.closeRecordset(other);
 }
@@ -180,7 +186,8 @@ TEST_F(StoreTest, AddsRowsFindsRecordsAndKeepsPositionsAcrossNestedReads) {
 
 TEST_F(StoreTest, FailuresAreRuntimeErrorsNeverCrashes) {
   EXPECT_EQ(errorOf([&] { store.openRecordset("SELEKT nonsense;", 1, 1); }), err::kStoreError);
-  EXPECT_EQ(errorOf([&] { store.openRecordset("SELECT Nope.* FROM Nope;", 1, 1); }), err::kStoreError);
+  EXPECT_EQ(errorOf([&] { store.openRecordset("SELECT Nope.* FROM Nope;", 1, 1); }),
+            err::kStoreError);
   RecordsetHandle rs = store.openRecordset("SELECT Companies.* FROM Companies;", 1, 1);
   store.closeRecordset(rs);
   EXPECT_FALSE(store.isRecordsetOpen(rs));
@@ -211,24 +218,40 @@ TEST_F(StoreTest, FailuresAreRuntimeErrorsNeverCrashes) {
   EXPECT_TRUE(reader.isReadOnly());
   rs = reader.openRecordset("SELECT Companies.* FROM Companies WHERE CompanyID=1;", 1, 3);
   reader.moveFirstRecord(rs);
-  EXPECT_NE(messageOf([&] { reader.updateFieldValue(rs, "CompanyName", "X"); }).find("reading only"),
-            std::string::npos);
+  EXPECT_NE(
+      messageOf([&] { reader.updateFieldValue(rs, "CompanyName", "X"); }).find("reading only"),
+      std::string::npos);
   EXPECT_EQ(reader.getFieldValue(rs, "CompanyName"), Variant("Acme"));
   EXPECT_EQ(direct("SELECT CompanyName FROM Companies WHERE CompanyID=1"), "Acme");
 }
 
 TEST_F(StoreTest, AFileThatMayNotBeWrittenOpensForReading) {
   store.close();
-  std::filesystem::permissions(path, std::filesystem::perms::owner_read |
-                                         std::filesystem::perms::group_read |
-                                         std::filesystem::perms::others_read);
-  if (access(path.c_str(), W_OK) == 0) GTEST_SKIP() << "the file stays writable for this user";
-  SqliteDatabase reader;
-  reader.open(path);
-  EXPECT_TRUE(reader.isReadOnly());
-  RecordsetHandle rs = reader.openRecordset("SELECT Companies.* FROM Companies;", 1, 3);
-  EXPECT_EQ(reader.getRecordCount(rs), 3);
-  EXPECT_EQ(errorOf([&] { reader.updateFieldValue(rs, "CompanyName", "X"); }), err::kStoreError);
+  namespace fs = std::filesystem;
+  fs::permissions(path, fs::perms::owner_read | fs::perms::group_read | fs::perms::others_read);
+  auto check = [&]() -> int {  // 0 when all holds
+    SqliteDatabase reader;
+    reader.open(path);
+    if (!reader.isReadOnly()) return 1;
+    RecordsetHandle rs = reader.openRecordset("SELECT Companies.* FROM Companies;", 1, 3);
+    if (reader.getRecordCount(rs) != 3) return 2;
+    return errorOf([&] { reader.updateFieldValue(rs, "CompanyName", "X"); }) == err::kStoreError
+               ? 0
+               : 3;
+  };
+  if (geteuid() != 0) {
+    EXPECT_EQ(check(), 0);
+    return;
+  }
+  // Every file is writable to root: the check runs as an unprivileged user.
+  fs::permissions(folder.path(), fs::perms::all);
+  pid_t child = fork();
+  if (child == 0) _exit(setgid(65534) == 0 && setuid(65534) == 0 ? check() : 9);
+  int status = 0;
+  waitpid(child, &status, 0);
+  ASSERT_TRUE(WIFEXITED(status));
+  EXPECT_EQ(WEXITSTATUS(status), 0);
+  EXPECT_EQ(direct("SELECT CompanyName FROM Companies WHERE CompanyID=1"), "Acme");
 }
 
 TEST_F(StoreTest, ABusyDatabaseIsReportedAndTwoProcessesLoseNoWrite) {
@@ -269,7 +292,8 @@ TEST_F(StoreTest, ABusyDatabaseIsReportedAndTwoProcessesLoseNoWrite) {
       RecordsetHandle h = writer.openRecordset("SELECT ClientData.* FROM ClientData;", 1, 3);
       RecordsetHandle own = writer.openRecordset(
           "SELECT Companies.CompanyID, Companies.Balance FROM Companies WHERE CompanyID=" +
-              std::to_string(c + 1) + ";", 1, 3);
+              std::to_string(c + 1) + ";",
+          1, 3);
       writer.moveFirstRecord(own);
       writer.updateFieldValue(own, "Balance", "0");
       for (int i = 0; i < perChild; ++i) {
@@ -297,7 +321,8 @@ TEST_F(StoreTest, ValuesFollowTheDeclaredTypes) {
       " Posted DATETIME, Memo TEXT);"
       "INSERT INTO Ledger VALUES (1, 5000000000, 1, 2.5, '2026-11-23 14:05:00', '12');");
   RecordsetHandle rs = store.openRecordset(
-      "SELECT Ledger.*, Ledger.Amount * 2 AS Twice, 7 AS Seven FROM Ledger WHERE LedgerID=1;", 1, 3);
+      "SELECT Ledger.*, Ledger.Amount * 2 AS Twice, 7 AS Seven FROM Ledger WHERE LedgerID=1;", 1,
+      3);
   EXPECT_EQ(store.getFieldValue(rs, "Big"), Variant(5000000000.0));
   EXPECT_EQ(store.getFieldValue(rs, "Posted"),
             Variant::date(DateSerial(2026, 11, 23) + TimeSerial(14, 5, 0)));
@@ -363,7 +388,8 @@ TEST_F(StoreTest, NewRowsGoToTheTableOfTheirFields) {
   // Two result columns of one name: the first wins.
   RecordsetHandle both = store.openRecordset(
       "SELECT Companies.*, CompaniesNotes.* FROM Companies INNER JOIN CompaniesNotes ON "
-      "Companies.CompanyID = CompaniesNotes.CompanyNum;", 1, 3);
+      "Companies.CompanyID = CompaniesNotes.CompanyNum;",
+      1, 3);
   EXPECT_EQ(store.getFieldValue(both, "CompanyName"), Variant("Acme"));
   store.addNewRecord(both);
   store.setFieldValue(both, "BusinessNotes", "x");
@@ -371,8 +397,8 @@ TEST_F(StoreTest, NewRowsGoToTheTableOfTheirFields) {
   store.closeRecordset(both);
 
   // No field set: a row of defaults in the one table, its key read back.
-  RecordsetHandle notes = store.openRecordset(
-      "SELECT CompaniesNotes.* FROM CompaniesNotes WHERE CompanyNum=2;", 1, 3);
+  RecordsetHandle notes =
+      store.openRecordset("SELECT CompaniesNotes.* FROM CompaniesNotes WHERE CompanyNum=2;", 1, 3);
   ASSERT_TRUE(store.isRecordsetEmpty(notes));
   store.addNewRecord(notes);
   store.updateRecord(notes);
