@@ -56,11 +56,9 @@ TEST_F(ContactNamesTest, CoupleRulesAndOtherTypes) {
   EXPECT_EQ(getContactNameDisplayedByType(2, 20, -1, false), "Ann Smith");  // no spouse name
   EXPECT_EQ(getContactNameDisplayedByType(2, 21, -1, false), "Ann Smith & Bob ");
   EXPECT_EQ(getContactNameDisplayedByType(2, 22, -1, false), "Ann Smith");  // not a couple
-  EXPECT_EQ(getContactNameDisplayedByType(0, 8, -1, false), "A. Smith");
   EXPECT_EQ(getContactNameDisplayedByType(4, 8, -1, false), "A. Smith");
   EXPECT_EQ(getContactNameDisplayedByType(2, 999, -1, false), "");
-
-  EXPECT_EQ(getContactNameDisplayed(8, -1, false), "A. Smith");
+  EXPECT_EQ(getContactNameDisplayed(8, -1, false), "A. Smith");  // display type 0
   setDisplayType(3);
   EXPECT_EQ(getContactNameDisplayed(8, -1, false), "Smith, Ann & Bob");
   EXPECT_EQ(spy->open, 0);

@@ -33,7 +33,6 @@ std::string tail(const std::string& sql) {
 TEST_F(DataTest, MainBusinessSqlIsComposedFromItsParts) {
   EXPECT_EQ(getMainBusinessSQLString(false, 3, -1), kCanadianColumns + kCanadianJoin + ";");
   EXPECT_EQ(tail(getMainBusinessSQLString(false, 3, 10)), "WHERE ClientData.ClientDataID=10 ;");
-  EXPECT_EQ(tail(getMainBusinessSQLString(false, 2, -1)), "WHERE NOT ClientData.ActiveStatus=1 ;");
   EXPECT_EQ(tail(getMainBusinessSQLString(true, 3, 0)),
             "WHERE ClientData.ShowThisClient = True AND ClientData.ClientDataID=0 ;");
   modDatabaseFunctions::setClientOrder(1);
