@@ -1,0 +1,301 @@
+#include "app/desk/client_window.h"
+
+#include <QActionGroup>
+#include <QCloseEvent>
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QLabel>
+#include <QMenuBar>
+#include <QStatusBar>
+#include <QVBoxLayout>
+#include <iostream>
+
+#include "app/desk/client_picker_dialog.h"
+#include "app/desk/dialog_error_object.h"
+#include "control/nv_document_quillbox.h"
+#include "data/mod_database_functions.h"
+#include "gui/message_box_object.h"
+#include "gui/qt_platform.h"
+#include "gui/user_control_host.h"
+#include "gui/widget_owner_form.h"
+#include "services/host/locale_reference.h"
+#include "services/host/module_state.h"
+#include "services/host/working_folder.h"
+#include "services/store/sqlite_database.h"
+
+namespace qb::desk {
+
+namespace {
+
+constexpr const char* kProduct = "Orvanta";
+constexpr int kMinimumWidth = 640;   // pixels the component needs to lay itself out
+constexpr int kMinimumHeight = 400;
+
+struct ViewEntry {
+  const char* text;
+  enumListViewViews view;
+};
+constexpr ViewEntry kViews[] = {
+    {"&Icons", viewIcons}, {"&Small Icons", viewSmallIcons}, {"&List", viewList}, {"&Details", viewDetails}};
+
+}  // namespace
+
+ClientWindow::ClientWindow(const DeskOptions& options, QWidget* parent)
+    : QMainWindow(parent),
+      options_(options),
+      errors_(std::make_shared<DialogErrorObject>(this, kProduct)),
+      messages_(std::make_shared<gui::MessageBoxObject>(this, kProduct)),
+      owner_(std::make_unique<gui::WidgetOwnerForm>(this)),
+      platform_(std::make_unique<gui::QtPlatform>(this)) {
+  if (options_.unattended) {
+    errors_->setUnattended(&std::cerr);
+    messages_->setUnattended(&std::cerr);
+  }
+  setWindowTitle("Client Documents");
+  setWindowIcon(QIcon::fromTheme("x-office-address-book"));
+  auto* central = new QWidget(this);
+  auto* layout = new QVBoxLayout(central);
+  layout->setContentsMargins(4, 4, 4, 0);
+  setCentralWidget(central);
+  buildMenus();
+  clientStatus_ = new QLabel(this);
+  documentStatus_ = new QLabel(this);
+  statusBar()->addPermanentWidget(clientStatus_);
+  statusBar()->addPermanentWidget(documentStatus_);
+  resize(1100, 720);
+  if (!options_.databasePath.empty()) openDatabase(QString::fromStdString(options_.databasePath));
+}
+
+ClientWindow::~ClientWindow() { releaseComponent(); }
+
+void ClientWindow::buildMenus() {
+  QMenu* file = menuBar()->addMenu("&File");
+  QAction* open = file->addAction(QIcon::fromTheme("document-open"), "&Open Database…", this,
+                                  [this] { chooseDatabase(); });
+  open->setShortcut(QKeySequence::Open);
+  file->addSeparator();
+  QAction* quit = file->addAction(QIcon::fromTheme("application-exit"), "&Quit", this, [this] { close(); });
+  quit->setShortcut(QKeySequence::Quit);
+
+  QMenu* client = menuBar()->addMenu("&Client");
+  client->addAction(QIcon::fromTheme("go-first"), "&First Client", QKeySequence("Alt+Home"), this,
+                    [this] { moveTo(0); });
+  client->addAction(QIcon::fromTheme("go-previous"), "&Previous Client", QKeySequence("Alt+PgUp"), this,
+                    [this] { moveTo(current_ - 1); });
+  client->addAction(QIcon::fromTheme("go-next"), "&Next Client", QKeySequence("Alt+PgDown"), this,
+                    [this] { moveTo(current_ + 1); });
+  client->addAction(QIcon::fromTheme("go-last"), "&Last Client", QKeySequence("Alt+End"), this,
+                    [this] { moveTo(roster_.size() - 1); });
+  client->addSeparator();
+  client->addAction(QIcon::fromTheme("edit-find"), "F&ind Client…", QKeySequence::Find, this,
+                    [this] { findClient(); });
+
+  QMenu* view = menuBar()->addMenu("&View");
+  views_ = new QActionGroup(this);
+  for (const ViewEntry& entry : kViews) {
+    QAction* action = view->addAction(entry.text);
+    action->setCheckable(true);
+    action->setData(static_cast<int>(entry.view));
+    views_->addAction(action);
+    connect(action, &QAction::triggered, this, [this, v = entry.view] {
+      if (component_) component_->changeDocListViewView(v);
+    });
+  }
+  view->addSeparator();
+  view->addAction(QIcon::fromTheme("view-refresh"), "&Refresh", QKeySequence::Refresh, this, [this] {
+    if (component_) component_->setupDocumentsDisplay();
+  });
+}
+
+bool ClientWindow::openDatabase(const QString& path) {
+  releaseComponent();
+  auto store = std::make_shared<SqliteDatabase>();
+  try {
+    if (!QFileInfo::exists(path)) throw std::runtime_error("no such file");
+    store->open(path.toStdString());
+  } catch (const std::exception& failure) {
+    statusBar()->showMessage(QString("Can't open %1: %2").arg(path, failure.what()));
+    updateTitle();
+    return false;
+  }
+  store_ = store;
+  folder_ = std::make_shared<FixedWorkingFolder>(QFileInfo(path).absolutePath().toStdString());
+  locale_ = std::make_shared<FixedLocale>();
+  locale_->countryCode = options_.country;
+  locale_->provinceCode = options_.province;
+  locale_->userID = options_.user;
+  locale_->productLabel = kProduct;
+  locale_->ownerForm = owner_.get();
+  hostComponent();
+  statusBar()->showMessage(QDir::toNativeSeparators(path), 4000);
+  return true;
+}
+
+void ClientWindow::hostComponent() {
+  // A fresh host on this thread: the first service objects handed in win.
+  resetModuleState();
+  component_ = std::make_unique<nvDocumentQuillbox>();
+  nvDocumentQuillbox& quillbox = *component_;
+  quillbox.Initialize();
+  quillbox.setErrorClass(errors_);
+  quillbox.setMsgboxClass(messages_);
+  quillbox.setDatabaseReference(store_);
+  quillbox.setWorkingFolderReference(folder_);
+  quillbox.setLocaleReference(locale_);
+
+  roster_ = ClientRoster::load(*store_);
+  current_ = -1;
+  if (options_.clientIsCompany) {
+    current_ = roster_.find(*options_.clientIsCompany, options_.clientID);
+    if (current_ < 0 && *options_.clientIsCompany) quillbox.setCompanyIDNum(options_.clientID);
+    if (current_ < 0 && !*options_.clientIsCompany) quillbox.setContactIDNum(options_.clientID);
+    options_.clientIsCompany.reset();  // the next database starts at its own first client
+  } else {
+    current_ = roster_.firstWithDocuments();
+  }
+  if (current_ >= 0) {
+    const Client& client = roster_.at(current_);
+    if (client.isCompany) {
+      quillbox.setCompanyIDNum(client.id);
+    } else {
+      quillbox.setContactIDNum(client.id);
+    }
+  }
+  wireComponentEvents();
+
+  host_ = new gui::UserControlHost(quillbox, centralWidget());
+  host_->setMinimumSize(kMinimumWidth, kMinimumHeight);
+  host_->onResized = [this] {
+    if (started_) component_->resizeDocQuillbox();
+  };
+  centralWidget()->layout()->addWidget(host_);
+
+  quillbox.StartDocQuillboxControl();
+  quillbox.populateClientDocumentCategories();
+  quillbox.setupDocumentsDisplay();
+  started_ = true;
+  // The place's size as it stands (the window may not show yet); showing or
+  // resizing the window lays the component out again.
+  host_->takeSize();
+  quillbox.resizeDocQuillbox();
+
+  listObserver_ = quillbox.lvDocuments().addObserver([this](const Control&, ControlChange change) {
+    if (change == ControlChange::Items || change == ControlChange::View) listChanged();
+  });
+  updateTitle();
+  listChanged();
+}
+
+void ClientWindow::wireComponentEvents() {
+  nvDocumentQuillbox& quillbox = *component_;
+  quillbox.moveFirst = [this] { moveTo(0); };
+  quillbox.movePrevious = [this] { moveTo(current_ - 1); };
+  quillbox.moveNext = [this] { moveTo(current_ + 1); };
+  quillbox.moveLast = [this] { moveTo(roster_.size() - 1); };
+  quillbox.findClient = [this] { findClient(); };
+  quillbox.changeCompany = [this](int32_t& companyID, int32_t&) { showClient(true, companyID); };
+  quillbox.changeContact = [this](int32_t& contactID, int32_t&) { showClient(false, contactID); };
+  quillbox.openDocMerge = [this](int16_t&, std::string& docPath) {
+    statusBar()->showMessage("Merge document: " + QString::fromStdString(docPath), 8000);
+  };
+}
+
+void ClientWindow::releaseComponent() {
+  if (!component_) return;
+  started_ = false;
+  component_->lvDocuments().removeObserver(listObserver_);
+  // The widgets stop observing the models before the component goes.
+  delete host_;
+  host_ = nullptr;
+  component_.reset();
+  resetModuleState();
+  store_.reset();
+  roster_ = ClientRoster();
+  current_ = -1;
+}
+
+void ClientWindow::closeEvent(QCloseEvent* event) {
+  // The user's view of the list is kept for the next time.
+  if (component_) component_->putDocQuillboxListViewSettings();
+  releaseComponent();
+  event->accept();
+}
+
+void ClientWindow::showClient(int index) {
+  if (!component_ || index < 0 || index >= roster_.size()) return;
+  current_ = index;
+  const Client& client = roster_.at(index);
+  if (client.isCompany) {
+    component_->setCompanyIDNum(client.id);
+  } else {
+    component_->setContactIDNum(client.id);
+  }
+  component_->populateClientDocumentCategories();
+  component_->setupDocumentsDisplay();
+  listChanged();
+}
+
+bool ClientWindow::showClient(bool isCompany, int32_t id) {
+  const int index = roster_.find(isCompany, id);
+  if (index < 0) return false;
+  showClient(index);
+  return true;
+}
+
+void ClientWindow::moveTo(int index) {
+  if (roster_.empty()) return;
+  index = std::clamp(index, 0, roster_.size() - 1);
+  if (index != current_) showClient(index);
+}
+
+void ClientWindow::findClient() {
+  if (!component_ || options_.unattended) return;
+  ClientPickerDialog picker(roster_, current_, this);
+  if (picker.exec() == QDialog::Accepted && picker.picked() >= 0) showClient(picker.picked());
+}
+
+void ClientWindow::chooseDatabase() {
+  const QString start = store_ ? QString::fromStdString(folder_->getDataFolder()) : QDir::homePath();
+  const QString path = QFileDialog::getOpenFileName(this, "Open Client Database", start,
+                                                    "Client databases (*.db);;All files (*)");
+  if (path.isEmpty()) return;
+  if (component_) component_->putDocQuillboxListViewSettings();
+  openDatabase(path);
+}
+
+void ClientWindow::listChanged() {
+  if (!component_) {
+    clientStatus_->clear();
+    documentStatus_->clear();
+    return;
+  }
+  clientStatus_->setText(current_ >= 0 ? QString("Client %1 of %2").arg(current_ + 1).arg(roster_.size())
+                                       : QString("%1 clients").arg(roster_.size()));
+  const int count = component_->lvDocuments().ListItems().Count();
+  documentStatus_->setText(count == 1 ? QString("1 document") : QString("%1 documents").arg(count));
+  for (QAction* action : views_->actions()) {
+    action->setChecked(action->data().toInt() == static_cast<int>(component_->ListViewViews()));
+  }
+}
+
+void ClientWindow::updateTitle() {
+  std::string firm;
+  if (component_) {
+    firm = modDatabaseFunctions::getCompanyNameFromCompanyID(modDatabaseFunctions::getAccountantFirmID());
+  }
+  setWindowTitle(firm.empty() ? QString("Client Documents")
+                              : QString("Client Documents — %1").arg(QString::fromStdString(firm)));
+}
+
+bool ClientWindow::saveScreenshot(const QString& path) {
+  if (!isVisible()) show();
+  // Let the layout settle and the component lay itself out.
+  for (int i = 0; i < 3; ++i) QCoreApplication::processEvents();
+  const QFileInfo file(path);
+  QDir().mkpath(file.absolutePath());
+  return grab().save(file.absoluteFilePath(), "PNG");
+}
+
+}  // namespace qb::desk

@@ -1,0 +1,106 @@
+#pragma once
+// ClientWindow: the demo host — the client screen of the practice-management
+// application with the document component on it. It opens the client
+// database, hands the component its five service objects, names the client
+// and starts it in the host order: Initialize; errorClass, MsgboxClass,
+// DatabaseReference, WorkingFolderReference, LocaleReference; the client;
+// StartDocQuillboxControl; populateClientDocumentCategories;
+// setupDocumentsDisplay; resizeDocQuillbox. It walks the firm's clients for
+// the component's navigation events, keeps the view menu in step with the
+// list, and saves the user's list settings when it closes.
+
+#include <memory>
+
+#include <QMainWindow>
+
+#include "app/desk/client_roster.h"
+#include "app/desk/desk_options.h"
+
+class QActionGroup;
+class QLabel;
+
+namespace qb {
+class nvDocumentQuillbox;
+class SqliteDatabase;
+class FixedLocale;
+class FixedWorkingFolder;
+}  // namespace qb
+
+namespace qb::gui {
+class MessageBoxObject;
+class QtPlatform;
+class UserControlHost;
+class WidgetOwnerForm;
+}  // namespace qb::gui
+
+namespace qb::desk {
+
+class DialogErrorObject;
+
+class ClientWindow : public QMainWindow {
+ public:
+  // Opens options.databasePath and shows the starting client; a database
+  // that can't be opened leaves the window empty with the reason in the
+  // status bar.
+  explicit ClientWindow(const DeskOptions& options, QWidget* parent = nullptr);
+  ~ClientWindow() override;
+
+  // Hosts the component afresh over another database file. False when the
+  // file can't be opened (the window is then empty).
+  bool openDatabase(const QString& path);
+  // Shows the client at a place of the roster: writes its id to the
+  // component, then fills the tree and the list. Out of range does nothing.
+  void showClient(int index);
+  // The same for a client given by kind and id; false when it is not in the
+  // roster.
+  bool showClient(bool isCompany, int32_t id);
+  int currentClient() const { return current_; }
+  const ClientRoster& roster() const { return roster_; }
+
+  // The component and its widgets; null before a database is open.
+  nvDocumentQuillbox* component() const { return component_.get(); }
+  gui::UserControlHost* componentHost() const { return host_; }
+  gui::QtPlatform& platform() const { return *platform_; }
+  DialogErrorObject& errors() const { return *errors_; }
+  gui::MessageBoxObject& messages() const { return *messages_; }
+
+  // Lays the window out, renders it and writes it to a PNG file. False when
+  // the file can't be written.
+  bool saveScreenshot(const QString& path);
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+
+ private:
+  void buildMenus();
+  void hostComponent();
+  void releaseComponent();
+  void wireComponentEvents();
+  void moveTo(int index);
+  void findClient();
+  void chooseDatabase();
+  void listChanged();
+  void updateTitle();
+
+  DeskOptions options_;
+  std::shared_ptr<DialogErrorObject> errors_;
+  std::shared_ptr<gui::MessageBoxObject> messages_;
+  std::shared_ptr<SqliteDatabase> store_;
+  std::shared_ptr<FixedWorkingFolder> folder_;
+  std::shared_ptr<FixedLocale> locale_;
+  std::unique_ptr<gui::WidgetOwnerForm> owner_;
+  std::unique_ptr<gui::QtPlatform> platform_;
+  std::unique_ptr<nvDocumentQuillbox> component_;
+  gui::UserControlHost* host_ = nullptr;
+  int32_t listObserver_ = 0;
+  bool started_ = false;
+
+  ClientRoster roster_;
+  int current_ = -1;
+
+  QActionGroup* views_ = nullptr;
+  QLabel* clientStatus_ = nullptr;
+  QLabel* documentStatus_ = nullptr;
+};
+
+}  // namespace qb::desk

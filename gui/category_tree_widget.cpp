@@ -1,0 +1,129 @@
+#include "gui/category_tree_widget.h"
+
+#include <QHeaderView>
+
+#include "gui/theme_icons.h"
+#include "gui/sync_guard.h"
+#include "gui/twips.h"
+
+namespace qb::gui {
+
+CategoryTreeWidget::CategoryTreeWidget(TreeView& control, QWidget* parent)
+    : ForwardingView<QTreeWidget>(parent),
+      control_(control),
+      binding_(control, *this, [this](ControlChange c) { applyChange(c); }) {
+  setColumnCount(1);
+  header()->hide();
+  setRootIsDecorated(true);
+  setUniformRowHeights(true);
+  setIconSize(QSize(16, 16));
+  setSelectionMode(QAbstractItemView::SingleSelection);
+  setExpandsOnDoubleClick(true);
+  setFrameShape(QFrame::StyledPanel);
+  forwardTo(&binding_.input(), false);
+  connect(this, &QTreeWidget::currentItemChanged, this,
+          [this](QTreeWidgetItem* current) { userChangedCurrent(current); });
+  connect(this, &QTreeWidget::itemExpanded, this, [this](QTreeWidgetItem* item) { userExpanded(item, true); });
+  connect(this, &QTreeWidget::itemCollapsed, this, [this](QTreeWidgetItem* item) { userExpanded(item, false); });
+  control_.setHitTestProvider([this](float x, float y) -> Node* {
+    const QPoint point = viewport()->mapFrom(this, QPoint(toPixels(x), toPixels(y)));
+    return nodeOf(itemAt(point));
+  });
+  binding_.applyAll();
+}
+
+CategoryTreeWidget::~CategoryTreeWidget() { control_.setHitTestProvider({}); }
+
+void CategoryTreeWidget::applyChange(ControlChange change) {
+  switch (change) {
+    case ControlChange::Items: rebuild(); break;
+    case ControlChange::Text: applyTexts(); break;
+    case ControlChange::Images: applyIcons(); break;
+    case ControlChange::View: applyExpansion(); break;
+    case ControlChange::Selection:
+      applySelection();
+      applyIcons();  // a selected node may show its own picture
+      break;
+    default: break;
+  }
+}
+
+void CategoryTreeWidget::rebuild() {
+  quietly(syncing_, [this] {
+    clear();
+    items_.clear();
+    nodes_.clear();
+    for (Node* root : control_.roots()) addItems(*root, nullptr);
+  });
+  applyIcons();
+  applyExpansion();
+  applySelection();
+}
+
+void CategoryTreeWidget::addItems(Node& node, QTreeWidgetItem* parent) {
+  auto* item = parent ? new QTreeWidgetItem(parent) : new QTreeWidgetItem(this);
+  item->setText(0, QString::fromStdString(node.Text()));
+  items_.insert(&node, item);
+  nodes_.insert(item, &node);
+  for (Node* child : node.childNodes()) addItems(*child, item);
+}
+
+void CategoryTreeWidget::applyTexts() {
+  for (auto it = items_.constBegin(); it != items_.constEnd(); ++it) {
+    it.value()->setText(0, QString::fromStdString(it.key()->Text()));
+  }
+}
+
+void CategoryTreeWidget::applyIcons() {
+  for (auto it = items_.constBegin(); it != items_.constEnd(); ++it) {
+    it.value()->setIcon(0, iconFor(control_.pictureOf(*it.key())));
+  }
+}
+
+void CategoryTreeWidget::applyExpansion() {
+  quietly(syncing_, [this] {
+    for (auto it = items_.constBegin(); it != items_.constEnd(); ++it) {
+      if (it.value()->isExpanded() != it.key()->Expanded()) it.value()->setExpanded(it.key()->Expanded());
+    }
+  });
+}
+
+void CategoryTreeWidget::applySelection() {
+  quietly(syncing_, [this] {
+    QTreeWidgetItem* item = itemOf(control_.SelectedItem());
+    if (item == currentItem()) return;
+    if (item == nullptr) {
+      clearSelection();
+      setCurrentItem(nullptr);
+    } else {
+      setCurrentItem(item);
+      scrollToItem(item);
+    }
+  });
+}
+
+void CategoryTreeWidget::userChangedCurrent(QTreeWidgetItem* current) {
+  if (syncing_) return;
+  Node* node = nodeOf(current);
+  if (node == nullptr) return;
+  // A click selects the node as the user's click; the keys move the
+  // selection without one.
+  if (pressing()) {
+    control_.userClickNode(*node);
+  } else {
+    control_.setSelectedItem(node);
+  }
+}
+
+void CategoryTreeWidget::userExpanded(QTreeWidgetItem* item, bool expanded) {
+  if (syncing_) return;
+  Node* node = nodeOf(item);
+  if (node == nullptr || node->Expanded() == expanded) return;
+  if (expanded) {
+    control_.userExpand(*node);
+  } else {
+    control_.userCollapse(*node);
+  }
+}
+
+}  // namespace qb::gui

@@ -1,0 +1,49 @@
+#pragma once
+// CategoryTreeWidget: renders a TreeView model with a QTreeWidget. The items
+// follow the model's nodes (text, picture, expansion, selection) through its
+// change notifications; the user's clicks, keys, expanding and collapsing go
+// back to the model as its events. HitTest on the model asks this widget
+// which node is under a point.
+//
+// As on the platform, a right press does not select: the control decides
+// what a right click selects.
+
+#include <QHash>
+#include <QTreeWidget>
+
+#include "gui/control_binding.h"
+#include "gui/forwarding_view.h"
+#include "services/controls/tree_view.h"
+
+namespace qb::gui {
+
+class CategoryTreeWidget : public ForwardingView<QTreeWidget> {
+ public:
+  CategoryTreeWidget(TreeView& control, QWidget* parent);
+  ~CategoryTreeWidget() override;
+
+  TreeView& control() const { return control_; }
+  // The item that shows node, nullptr when none does.
+  QTreeWidgetItem* itemOf(const Node* node) const { return items_.value(node, nullptr); }
+  // The node an item shows, nullptr for none.
+  Node* nodeOf(const QTreeWidgetItem* item) const { return nodes_.value(item, nullptr); }
+
+ private:
+  void applyChange(ControlChange change);
+  void rebuild();
+  void addItems(Node& node, QTreeWidgetItem* parent);
+  void applyTexts();
+  void applyIcons();
+  void applyExpansion();
+  void applySelection();
+  void userChangedCurrent(QTreeWidgetItem* current);
+  void userExpanded(QTreeWidgetItem* item, bool expanded);
+
+  TreeView& control_;
+  ControlBinding binding_;
+  QHash<const Node*, QTreeWidgetItem*> items_;
+  QHash<const QTreeWidgetItem*, Node*> nodes_;
+  bool syncing_ = false;
+};
+
+}  // namespace qb::gui

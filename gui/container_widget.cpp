@@ -1,0 +1,42 @@
+#include "gui/container_widget.h"
+
+#include <QPainter>
+#include <QStyle>
+#include <QStyleOptionFrame>
+
+#include "gui/colors.h"
+#include "gui/theme_icons.h"
+#include "services/controls/frame.h"
+#include "services/controls/picture_box.h"
+
+namespace qb::gui {
+
+ContainerWidget::ContainerWidget(ContainerControl& control, QWidget* parent)
+    : QWidget(parent), control_(control), binding_(control, *this) {
+  binding_.forwardInputFrom(*this, true);
+  binding_.applyAll();
+}
+
+void ContainerWidget::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  painter.fillRect(rect(), toQColor(control_.BackColor(), palette()));
+  if (control_.BorderStyle() == 1) {
+    QStyleOptionFrame frame;
+    frame.initFrom(this);
+    frame.frameShape = QFrame::StyledPanel;
+    frame.state |= QStyle::State_Sunken;
+    frame.lineWidth = 1;
+    style()->drawPrimitive(QStyle::PE_Frame, &frame, &painter, this);
+  }
+  if (auto* picture = dynamic_cast<PictureBox*>(&control_); picture && !picture->Picture().isEmpty()) {
+    const int size = picture->Picture().size > 0 ? picture->Picture().size : 32;
+    iconFor(picture->Picture()).paint(&painter, QRect(0, 0, size, size), Qt::AlignLeft | Qt::AlignTop);
+  }
+  if (dynamic_cast<Frame*>(&control_) != nullptr && !control_.Caption().empty()) {
+    painter.setPen(palette().color(QPalette::WindowText));
+    painter.drawText(rect().adjusted(6, 2, -6, 0), Qt::AlignLeft | Qt::AlignTop,
+                     QString::fromStdString(control_.Caption()));
+  }
+}
+
+}  // namespace qb::gui

@@ -1,0 +1,217 @@
+#include "gui/document_list_widget.h"
+
+#include <QHeaderView>
+#include <QItemSelectionModel>
+#include <QStackedLayout>
+
+#include "gui/sync_guard.h"
+#include "gui/twips.h"
+
+namespace qb::gui {
+
+DocumentListWidget::DocumentListWidget(ListView& control, QWidget* parent)
+    : QWidget(parent),
+      control_(control),
+      model_(control),
+      listView_(this),
+      detailsView_(this),
+      pages_(new QStackedLayout(this)),
+      binding_(control, *this, [this](ControlChange c) { applyChange(c); }) {
+  pages_->setContentsMargins(0, 0, 0, 0);
+  pages_->addWidget(&listView_);
+  pages_->addWidget(&detailsView_);
+
+  listView_.setModel(&model_);
+  detailsView_.setModel(&model_);
+  // One selection for both views.
+  QItemSelectionModel* own = detailsView_.selectionModel();
+  detailsView_.setSelectionModel(listView_.selectionModel());
+  delete own;
+
+  for (QAbstractItemView* view : {static_cast<QAbstractItemView*>(&listView_),
+                                  static_cast<QAbstractItemView*>(&detailsView_)}) {
+    view->setSelectionBehavior(QAbstractItemView::SelectRows);
+    view->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    view->setFrameShape(QFrame::StyledPanel);
+  }
+  listView_.forwardTo(&binding_.input(), true);
+  detailsView_.forwardTo(&binding_.input(), true);
+  listView_.setUniformItemSizes(true);
+  listView_.setTextElideMode(Qt::ElideRight);
+  detailsView_.setRootIsDecorated(false);
+  detailsView_.setItemsExpandable(false);
+  detailsView_.setUniformRowHeights(true);
+  detailsView_.setAllColumnsShowFocus(true);
+  detailsView_.setIconSize(QSize(16, 16));
+  detailsView_.setSortingEnabled(false);
+  QHeaderView* header = detailsView_.header();
+  header->setStretchLastSection(false);
+  header->setSectionsClickable(true);
+  header->setSectionsMovable(true);
+  header->setHighlightSections(false);
+  header->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+
+  connect(listView_.selectionModel(), &QItemSelectionModel::selectionChanged, this,
+          [this] { userChangedSelection(); });
+  connect(listView_.selectionModel(), &QItemSelectionModel::currentChanged, this,
+          [this] { userChangedSelection(); });
+  connect(header, &QHeaderView::sectionResized, this,
+          [this](int section, int, int newSize) { userResizedColumn(section, newSize); });
+  connect(header, &QHeaderView::sectionMoved, this,
+          [this](int section, int, int newVisual) { userMovedColumn(section, newVisual); });
+  connect(header, &QHeaderView::sectionClicked, this, [this](int section) { userClickedColumn(section); });
+
+  control_.setHitTestProvider([this](float x, float y) -> ListItem* {
+    QAbstractItemView& view = currentView();
+    const QPoint point = view.viewport()->mapFrom(this, QPoint(toPixels(x), toPixels(y)));
+    return model_.itemAt(view.indexAt(point));
+  });
+  binding_.applyAll();
+}
+
+DocumentListWidget::~DocumentListWidget() { control_.setHitTestProvider({}); }
+
+QAbstractItemView& DocumentListWidget::currentView() const {
+  if (control_.View() == lvwReport) return const_cast<ForwardingView<QTreeView>&>(detailsView_);
+  return const_cast<ForwardingView<QListView>&>(listView_);
+}
+
+void DocumentListWidget::applyChange(ControlChange change) {
+  switch (change) {
+    case ControlChange::Items:
+      quietly(syncing_, [this] { model_.reset(); });
+      applyColumns();
+      applySelection();
+      break;
+    case ControlChange::Text: model_.textsChanged(); break;
+    case ControlChange::Images: model_.picturesChanged(); break;
+    case ControlChange::Selection: applySelection(); break;
+    case ControlChange::View: applyView(); break;
+    case ControlChange::Repaint:
+      listView_.viewport()->update();
+      detailsView_.viewport()->update();
+      break;
+    default: break;
+  }
+}
+
+void DocumentListWidget::applyView() {
+  const bool details = control_.View() == lvwReport;
+  QAbstractItemView& shown = currentView();
+  if (pages_->currentWidget() != &shown) {
+    const bool hadFocus = pages_->currentWidget() && pages_->currentWidget()->hasFocus();
+    pages_->setCurrentWidget(&shown);
+    if (hadFocus) shown.setFocus();
+  }
+  setFocusProxy(&shown);
+  if (!details) applyListMode();
+  quietly(syncing_, [this] { model_.headersChanged(); });
+  applyColumns();
+  applySelection();
+}
+
+void DocumentListWidget::applyListMode() {
+  const int16_t view = control_.View();
+  // Setting the mode resets flow, wrapping and movement: it goes first.
+  listView_.setViewMode(view == lvwIcon ? QListView::IconMode : QListView::ListMode);
+  listView_.setMovement(QListView::Static);
+  listView_.setResizeMode(QListView::Adjust);
+  listView_.setWrapping(true);
+  listView_.setWordWrap(view == lvwIcon);
+  if (view == lvwIcon) {
+    // Arranged to the left the icons fill columns; otherwise rows.
+    listView_.setFlow(control_.Arrange() == lvwAutoLeft ? QListView::TopToBottom : QListView::LeftToRight);
+    listView_.setIconSize(QSize(32, 32));
+    listView_.setGridSize(QSize(104, 72));
+    listView_.setSpacing(0);
+  } else {
+    listView_.setFlow(view == lvwSmallIcon ? QListView::LeftToRight : QListView::TopToBottom);
+    listView_.setIconSize(QSize(16, 16));
+    listView_.setGridSize(QSize(view == lvwSmallIcon ? 190 : 220, 22));
+    listView_.setSpacing(0);
+  }
+  const bool multi = control_.MultiSelect();
+  for (QAbstractItemView* v : {static_cast<QAbstractItemView*>(&listView_),
+                               static_cast<QAbstractItemView*>(&detailsView_)}) {
+    v->setSelectionMode(multi ? QAbstractItemView::ExtendedSelection : QAbstractItemView::SingleSelection);
+  }
+}
+
+void DocumentListWidget::applyColumns() {
+  QHeaderView* header = detailsView_.header();
+  const ColumnHeaderCollection& columns = control_.ColumnHeaders();
+  quietly(syncing_, [&] {
+    header->setVisible(!control_.HideColumnHeaders());
+    for (int32_t i = 1; i <= columns.Count() && i <= model_.columnCount(); ++i) {
+      const ColumnHeader& column = columns.item(i);
+      const int section = i - 1;
+      if (header->sectionSize(section) != toPixels(column.Width())) {
+        header->resizeSection(section, toPixels(column.Width()));
+      }
+      const int visual = header->visualIndex(section);
+      if (visual != column.Position() - 1) header->moveSection(visual, column.Position() - 1);
+    }
+    header->setSortIndicatorShown(control_.Sorted() && control_.SortKey() < model_.columnCount());
+    if (control_.Sorted()) {
+      header->setSortIndicator(control_.SortKey(),
+                               control_.SortOrder() == lvwDescending ? Qt::DescendingOrder : Qt::AscendingOrder);
+    }
+  });
+}
+
+void DocumentListWidget::applySelection() {
+  quietly(syncing_, [this] {
+    QItemSelectionModel* selection = listView_.selectionModel();
+    QItemSelection rows;
+    for (ListItem* item : control_.selectedItems()) {
+      const QModelIndex first = model_.indexOf(*item);
+      if (first.isValid()) rows.select(first, first.siblingAtColumn(model_.columnCount() - 1));
+    }
+    selection->select(rows, QItemSelectionModel::ClearAndSelect);
+    ListItem* current = control_.SelectedItem();
+    selection->setCurrentIndex(current ? model_.indexOf(*current) : QModelIndex(),
+                               QItemSelectionModel::NoUpdate);
+  });
+}
+
+void DocumentListWidget::userChangedSelection() {
+  if (syncing_) return;
+  quietly(syncing_, [this] {
+    QItemSelectionModel* selection = listView_.selectionModel();
+    const int32_t count = control_.ListItems().Count();
+    // Rows that left the selection first, so that a single-selection list
+    // never holds two; the current row last, so that it is SelectedItem.
+    for (int32_t i = 1; i <= count; ++i) {
+      ListItem& item = control_.ListItems().item(i);
+      if (item.Selected() && !selection->isRowSelected(i - 1, QModelIndex())) item.setSelected(false);
+    }
+    ListItem* current = model_.itemAt(selection->currentIndex());
+    for (int32_t i = 1; i <= count; ++i) {
+      ListItem& item = control_.ListItems().item(i);
+      if (&item != current && !item.Selected() && selection->isRowSelected(i - 1, QModelIndex())) {
+        item.setSelected(true);
+      }
+    }
+    if (current && selection->isRowSelected(current->Index() - 1, QModelIndex())) current->setSelected(true);
+  });
+}
+
+void DocumentListWidget::userResizedColumn(int section, int newSize) {
+  if (syncing_ || section >= control_.ColumnHeaders().Count()) return;
+  quietly(syncing_, [&] { control_.ColumnHeaders().item(section + 1).setWidth(toTwips(newSize)); });
+}
+
+void DocumentListWidget::userMovedColumn(int section, int newVisual) {
+  if (syncing_ || section >= control_.ColumnHeaders().Count()) return;
+  quietly(syncing_, [&] {
+    control_.ColumnHeaders().item(section + 1).setPosition(static_cast<int16_t>(newVisual + 1));
+  });
+  applyColumns();
+}
+
+void DocumentListWidget::userClickedColumn(int section) {
+  if (section >= control_.ColumnHeaders().Count()) return;
+  control_.userClickColumn(control_.ColumnHeaders().item(section + 1));
+}
+
+}  // namespace qb::gui

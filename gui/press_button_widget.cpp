@@ -1,0 +1,45 @@
+#include "gui/press_button_widget.h"
+
+#include <string_view>
+
+#include "gui/theme_icons.h"
+
+namespace qb::gui {
+
+namespace {
+
+struct ButtonIcon {
+  std::string_view control;
+  int index;
+  const char* icon;
+};
+
+// Theme icons of the component's buttons, by control name and index. The
+// narrow buttons of the list side keep their room for the caption.
+constexpr ButtonIcon kButtonIcons[] = {
+    {"cmdClientNav", 0, "go-first"},     {"cmdClientNav", 1, "go-previous"},
+    {"cmdClientNav", 2, "go-next"},      {"cmdClientNav", 3, "go-last"},
+    {"cmdClientNav", 4, "edit-find"},    {"cmdDocManager", 4, "folder-new"},
+};
+
+}  // namespace
+
+PressButtonWidget::PressButtonWidget(CommandButton& control, QWidget* parent)
+    : QPushButton(parent), control_(control), binding_(control, *this, [this](ControlChange c) { applyChange(c); }) {
+  setFocusPolicy(Qt::TabFocus);
+  for (const ButtonIcon& entry : kButtonIcons) {
+    if (entry.control == control.Name() && entry.index == control.Index()) {
+      setIcon(QIcon::fromTheme(entry.icon));
+      setIconSize(QSize(16, 16));
+    }
+  }
+  connect(this, &QPushButton::clicked, this, [this] { control_.click(); });
+  binding_.forwardInputFrom(*this, false);
+  binding_.applyAll();
+}
+
+void PressButtonWidget::applyChange(ControlChange change) {
+  if (change == ControlChange::Text) setText(QString::fromStdString(control_.Caption()));
+}
+
+}  // namespace qb::gui

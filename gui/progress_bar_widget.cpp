@@ -1,0 +1,28 @@
+#include "gui/progress_bar_widget.h"
+
+#include <cmath>
+
+namespace qb::gui {
+
+ProgressBarWidget::ProgressBarWidget(ProgressBar& control, QWidget* parent)
+    : QProgressBar(parent), control_(control), binding_(control, *this, [this](ControlChange c) { applyChange(c); }) {
+  setTextVisible(false);
+  binding_.forwardInputFrom(*this, true);
+  binding_.applyAll();
+}
+
+void ProgressBarWidget::applyChange(ControlChange change) {
+  if (change != ControlChange::Value) return;
+  const int minimum = static_cast<int>(std::floor(control_.Min()));
+  const int maximum = static_cast<int>(std::ceil(control_.Max()));
+  // Qt shows a busy animation for an empty range; the platform an empty bar.
+  if (maximum <= minimum) {
+    setRange(0, 1);
+    setValue(0);
+    return;
+  }
+  setRange(minimum, maximum);
+  setValue(static_cast<int>(std::lround(control_.Value())));
+}
+
+}  // namespace qb::gui

@@ -1,0 +1,51 @@
+#include "gui/qt_platform.h"
+
+#include <QApplication>
+#include <QCursor>
+#include <QWidget>
+
+#include "gui/twips.h"
+#include "services/controls/menu_item.h"
+#include "services/controls/platform.h"
+
+namespace qb::gui {
+
+namespace {
+
+constexpr int32_t kRightAlign = 8;
+constexpr int16_t kBusyPointer = 11;
+
+}  // namespace
+
+QtPlatform::QtPlatform(QWidget* window)
+    : window_(window), runner_([](PopupMenu& menu, const QPoint& position) { return menu.menu().exec(position); }) {
+  installEventPump([] { QCoreApplication::processEvents(); });
+  pointerObserver_ = screen().addObserver([this](int16_t pointer) { showPointer(pointer); });
+  installPopupMenuHandler([this](MenuItem& model, int32_t flags, std::optional<float> x, std::optional<float> y) {
+    PopupMenu menu(model, window_);
+    QPoint position = QCursor::pos();
+    if (x && y && window_) position = window_->mapToGlobal(QPoint(toPixels(*x), toPixels(*y)));
+    // Right-aligned: the menu's right edge stands at the point.
+    if (flags & kRightAlign) position.rx() -= menu.menu().sizeHint().width();
+    menu.choose(runner_(menu, position));
+  });
+}
+
+QtPlatform::~QtPlatform() {
+  screen().removeObserver(pointerObserver_);
+  if (busy_) QApplication::restoreOverrideCursor();
+  resetPlatform();
+}
+
+void QtPlatform::showPointer(int16_t pointer) {
+  const bool busy = pointer == kBusyPointer;
+  if (busy == busy_) return;
+  busy_ = busy;
+  if (busy) {
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+  } else {
+    QApplication::restoreOverrideCursor();
+  }
+}
+
+}  // namespace qb::gui
