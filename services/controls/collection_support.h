@@ -23,10 +23,12 @@ decltype(auto) itemByIndexOrKey(Collection& collection, const Variant& indexOrKe
   control_failures::invalidCall();
 }
 
-// Sets each member's index to its place, from 1.
+// Sets each member's index to its place, from 1. Members before position
+// from (0-based) keep theirs: an insertion renumbers only what moved.
 template <class T>
-void numberFromOne(const std::vector<std::unique_ptr<T>>& members, int32_t T::*index) {
-  for (size_t i = 0; i < members.size(); ++i) (*members[i]).*index = static_cast<int32_t>(i + 1);
+void numberFromOne(const std::vector<std::unique_ptr<T>>& members, int32_t T::*index,
+                   size_t from = 0) {
+  for (size_t i = from; i < members.size(); ++i) (*members[i]).*index = static_cast<int32_t>(i + 1);
 }
 
 }  // namespace qb::collection_support

@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <memory>
 #include <string>
+#include <unordered_map>
 #include <vector>
 
 #include "services/controls/control.h"
@@ -58,9 +59,10 @@ class ListImageCollection {
   void Clear();
 
  private:
-  void renumber();
+  void renumber(size_t from = 0);
   ImageList& owner_;
   std::vector<std::unique_ptr<ListImage>> images_;
+  std::unordered_map<std::string, ListImage*> keys_;  // the keyed images
 };
 
 class ImageList : public Control {

@@ -16,7 +16,7 @@ ListItem& ListItemCollection::Add(int32_t index, const std::string& key, const s
   ListItem& added = *owned;
   list_.rows_.insert(list_.rows_.begin() + (index - 1), std::move(owned));
   if (!key.empty()) list_.keys_[key] = &added;
-  list_.renumber();
+  list_.renumber(index - 1);
   list_.keepSorted();
   list_.changed(ControlChange::Items);
   return added;

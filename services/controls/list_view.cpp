@@ -184,17 +184,28 @@ bool sortsBefore(const ListItem& a, const ListItem& b, int16_t column, int16_t o
 
 void ListView::keepSorted() {
   if (!sorted_ || rows_.size() < 2) return;
-  int16_t key = sortKey_;
-  int16_t order = sortOrder_;
-  std::stable_sort(rows_.begin(), rows_.end(), [key, order](const auto& a, const auto& b) {
-    return sortsBefore(*a, *b, key, order);
+  // Each row's folded sort text is made once, not at every comparison; the
+  // order is the one sortsBefore gives.
+  std::vector<std::string> texts(rows_.size());
+  std::vector<size_t> places(rows_.size());
+  for (size_t i = 0; i < rows_.size(); ++i) {
+    texts[i] = UCase(rows_[i]->SubItems(sortKey_));
+    places[i] = i;
+  }
+  bool descending = sortOrder_ == lvwDescending;
+  std::stable_sort(places.begin(), places.end(), [&](size_t a, size_t b) {
+    return descending ? texts[b] < texts[a] : texts[a] < texts[b];
   });
+  std::vector<std::unique_ptr<ListItem>> sorted;
+  sorted.reserve(rows_.size());
+  for (size_t place : places) sorted.push_back(std::move(rows_[place]));
+  rows_ = std::move(sorted);
   renumber();
   notify(ControlChange::Items);
 }
 
-void ListView::renumber() {
-  collection_support::numberFromOne(rows_, &ListItem::index_);
+void ListView::renumber(size_t from) {
+  collection_support::numberFromOne(rows_, &ListItem::index_, from);
 }
 
 void ListView::forget(ListItem& item) {

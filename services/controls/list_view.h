@@ -147,7 +147,8 @@ class ListView : public Control {
   void changed(ControlChange change) { notify(change); }
   // Re-sorts when Sorted; then renumbers.
   void keepSorted();
-  void renumber();
+  // Numbers the rows from position from (0-based) on.
+  void renumber(size_t from = 0);
   void selectionChanged(ListItem& item, bool selected);
   void forget(ListItem& item);
 
