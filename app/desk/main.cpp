@@ -26,6 +26,13 @@ QString defaultScreenshotPath(const QString& databasePath) {
   return folder + "/quillbox-desk.png";
 }
 
+// The offscreen platform warns that it can't pass size hints on; nothing
+// here needs them, so that one line is left out of the output.
+void quietOffscreen(QtMsgType type, const QMessageLogContext& context, const QString& message) {
+  if (message.contains("propagateSizeHints")) return;
+  std::fprintf(stderr, "%s\n", qPrintable(qFormatLogMessage(type, context, message)));
+}
+
 int32_t number(const QCommandLineParser& parser, const QString& name, int32_t fallback) {
   if (!parser.isSet(name)) return fallback;
   bool ok = false;
@@ -38,6 +45,7 @@ int32_t number(const QCommandLineParser& parser, const QString& name, int32_t fa
 
 int main(int argc, char** argv) {
   if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM") && !hasDisplay()) qputenv("QT_QPA_PLATFORM", "offscreen");
+  qInstallMessageHandler(quietOffscreen);
   QApplication app(argc, argv);
   QApplication::setApplicationName("quillbox-desk");
   QApplication::setApplicationDisplayName("Orvanta");
