@@ -60,6 +60,14 @@ DocumentListWidget::DocumentListWidget(ListView& control, QWidget* parent)
   connect(header, &QHeaderView::sectionMoved, this,
           [this](int section, int, int newVisual) { userMovedColumn(section, newVisual); });
   connect(header, &QHeaderView::sectionClicked, this, [this](int section) { userClickedColumn(section); });
+  // A click on a row raises ItemClick, then Click, after the view selected it.
+  for (QAbstractItemView* view : {static_cast<QAbstractItemView*>(&listView_),
+                                  static_cast<QAbstractItemView*>(&detailsView_)}) {
+    connect(view, &QAbstractItemView::clicked, this, [this](const QModelIndex& index) {
+      if (ListItem* item = model_.itemAt(index)) control_.ItemClick.raise(*item);
+      control_.Click.raise();
+    });
+  }
 
   control_.setHitTestProvider([this](float x, float y) -> ListItem* {
     QAbstractItemView& view = currentView();

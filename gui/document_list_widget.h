@@ -5,8 +5,9 @@
 // to bottom in columns); details shows them in a QTreeView with a header
 // section for each column header (width and alignment from the model, order
 // from Position). Both views share one ListViewItemModel and one selection,
-// kept in step with the rows' Selected. The user's clicks, keys and column
-// clicks reach the model as its events; resizing or moving a header section
+// kept in step with the rows' Selected. The user's clicks (a click on a row
+// raises ItemClick and Click), keys and column clicks reach the model as its
+// events; resizing or moving a header section
 // writes the column's Width or Position back. HitTest on the model asks the
 // view on show which row is under a point.
 

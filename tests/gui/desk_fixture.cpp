@@ -16,15 +16,16 @@ constexpr int32_t kBakery = 2;
 
 }  // namespace
 
-void DeskTest::SetUpTestSuite() {
-  if (QApplication::instance() == nullptr) {
-    static int argc = 1;
-    static char name[] = "test_gui";
-    static char* argv[] = {name, nullptr};
-    new QApplication(argc, argv);
-  }
+void ensureApplication() {
+  if (QApplication::instance() != nullptr) return;
+  static int argc = 1;
+  static char name[] = "test_gui";
+  static char* argv[] = {name, nullptr};
+  new QApplication(argc, argv);
   gui::ensureIconTheme();
 }
+
+void DeskTest::SetUpTestSuite() { ensureApplication(); }
 
 void DeskTest::SetUp() {
   const std::string db = folder_.file("firm.db");
@@ -44,7 +45,7 @@ void DeskTest::SetUp() {
 
 void DeskTest::TearDown() { window_.reset(); }
 
-void DeskTest::settle() {
+void settle() {
   for (int i = 0; i < 4; ++i) QApplication::processEvents();
 }
 
@@ -62,13 +63,12 @@ gui::DocumentListWidget& DeskTest::listWidget() {
   return dynamic_cast<gui::DocumentListWidget&>(widgetOf(quillbox().lvDocuments()));
 }
 
-void DeskTest::mouse(QWidget& target, QEvent::Type type, const QPoint& at, Qt::MouseButton button,
-                     Qt::MouseButtons held) {
+void mouse(QWidget& target, QEvent::Type type, const QPoint& at, Qt::MouseButton button, Qt::MouseButtons held) {
   QMouseEvent event(type, QPointF(at), QPointF(target.mapToGlobal(at)), button, held, Qt::NoModifier);
   QApplication::sendEvent(&target, &event);
 }
 
-void DeskTest::click(QWidget& target, const QPoint& at, Qt::MouseButton button) {
+void click(QWidget& target, const QPoint& at, Qt::MouseButton button) {
   mouse(target, QEvent::MouseButtonPress, at, button, button);
   mouse(target, QEvent::MouseButtonRelease, at, button, Qt::NoButton);
   settle();

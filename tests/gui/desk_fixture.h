@@ -20,6 +20,15 @@
 
 namespace qb::test {
 
+// The one QApplication of the test program (offscreen), with the icon theme.
+void ensureApplication();
+// Lets posted events (layout, paints) run.
+void settle();
+// One mouse event of type at a point of target.
+void mouse(QWidget& target, QEvent::Type type, const QPoint& at, Qt::MouseButton button, Qt::MouseButtons held);
+// A press and a release of button at a point of target, then settle().
+void click(QWidget& target, const QPoint& at, Qt::MouseButton button = Qt::LeftButton);
+
 class DeskTest : public ::testing::Test {
  protected:
   static void SetUpTestSuite();
@@ -32,12 +41,6 @@ class DeskTest : public ::testing::Test {
   gui::DocumentListWidget& listWidget();
   QWidget& widgetOf(const Control& control);
 
-  // Lets posted events (layout, paints) run.
-  static void settle();
-  // A press and a release of button at a point of target.
-  static void click(QWidget& target, const QPoint& at, Qt::MouseButton button = Qt::LeftButton);
-  static void mouse(QWidget& target, QEvent::Type type, const QPoint& at, Qt::MouseButton button,
-                    Qt::MouseButtons held);
   // A left click on the tree item that shows the node with that text.
   void clickCategory(const std::string& text);
   // The node with that text, failing the test when there is none.
