@@ -14,12 +14,12 @@
 
 #include "control/nv_document_quillbox.h"
 #include "data/mod_database_functions.h"
-#include "services/quillbox/doc_quillbox_category_class.h"
 #include "services/errors/console_error_object.h"
 #include "services/host/locale_reference.h"
 #include "services/host/module_state.h"
 #include "services/host/recording_message_object.h"
 #include "services/host/working_folder.h"
+#include "services/quillbox/doc_quillbox_category_class.h"
 #include "services/store/sample_firm.h"
 #include "services/store/sqlite_database.h"
 #include "services/util/file_utilities_class.h"
@@ -52,7 +52,8 @@ struct BulkFirm {
     quillbox.populateClientDocumentCategories();
     qb::TreeView& tree = quillbox.tvClientDocumentation();
     for (int32_t i = 1; i <= tree.Nodes().Count(); ++i) {
-      if (tree.Nodes().item(i).Text() == "Bulk Archive") tree.setSelectedItem(&tree.Nodes().item(i));
+      if (tree.Nodes().item(i).Text() == "Bulk Archive")
+        tree.setSelectedItem(&tree.Nodes().item(i));
     }
     quillbox.setupDocumentsDisplay();
     qb::ListView& list = quillbox.lvDocuments();

@@ -20,9 +20,7 @@ constexpr const char* kTrace = "Orvanta.exe-nvDocumentQuillbox-";
 
 std::string trace(const char* procedure) { return std::string(kTrace) + procedure; }
 
-[[noreturn]] void noSuchElement() {
-  throw RuntimeError(err::kSubscript, "Subscript out of range");
-}
+[[noreturn]] void noSuchElement() { throw RuntimeError(err::kSubscript, "Subscript out of range"); }
 }  // namespace
 
 nvDocumentQuillbox::nvDocumentQuillbox(std::string name, int32_t index)
@@ -151,7 +149,9 @@ void nvDocumentQuillbox::wireEvents() {
   lvDocuments_.MouseUp = [this](int16_t button, int16_t shift, float x, float y) {
     lvDocuments_MouseUp(button, shift, x, y);
   };
-  clientDocumentationSplitter_.SplitComplete = [this] { clientDocumentationSplitter_SplitComplete(); };
+  clientDocumentationSplitter_.SplitComplete = [this] {
+    clientDocumentationSplitter_SplitComplete();
+  };
   for (int16_t i = 0; i < 5; ++i) {
     cmdClientNav_[i].Click = [this, i] { cmdClientNav_Click(i); };
     cmdDocManager_[i].Click = [this, i] { cmdDocManager_Click(i); };
@@ -166,7 +166,9 @@ void nvDocumentQuillbox::wireCategoryObject() {
   category_->incLoadDocumentProgress = [this](int32_t step) {
     DocQuillboxCategoryClass_incLoadDocumentProgress(step);
   };
-  category_->endLoadDocumentProgress = [this] { DocQuillboxCategoryClass_endLoadDocumentProgress(); };
+  category_->endLoadDocumentProgress = [this] {
+    DocQuillboxCategoryClass_endLoadDocumentProgress();
+  };
   category_->errorLoadDocument = [this](std::string& message) {
     DocQuillboxCategoryClass_errorLoadDocument(message);
   };
@@ -189,7 +191,8 @@ void nvDocumentQuillbox::Initialize() {
     if (!module.fileUtilities) module.fileUtilities = std::make_shared<fileUtilitiesClass>();
   });
   proc.step([&] {
-    if (!module.generalUtilities) module.generalUtilities = std::make_shared<generalUtilitiesClass>();
+    if (!module.generalUtilities)
+      module.generalUtilities = std::make_shared<generalUtilitiesClass>();
   });
   proc.step([&] {
     if (!module.dateUtilities) module.dateUtilities = std::make_shared<dateUtilitiesClass>();
@@ -215,7 +218,8 @@ void nvDocumentQuillbox::StartDocQuillboxControl() {
   proc.step([&] { clientDocumentationSplitter_.setLeftOrTopControl(&fraDocumentInfo_[0]); });
   proc.step([&] { clientDocumentationSplitter_.setRightOrBottomControl(&fraDocumentInfo_[1]); });
   proc.step([&] { clientDocumentationSplitter_.setSplitterPosition(splitterPosition_); });
-  proc.step([&] { objectOf(moduleState().generalUtilities).prepareTreeView(tvClientDocumentation_); });
+  proc.step(
+      [&] { objectOf(moduleState().generalUtilities).prepareTreeView(tvClientDocumentation_); });
   proc.step([&] {
     // The one place the access level acts: Open, Find and Add Categories go
     // grey; Delete Shortcut stays.
@@ -271,7 +275,8 @@ void nvDocumentQuillbox::setMsgboxClass(const std::shared_ptr<MessageObject>& ob
   proc.step([&] { objectOf(module.references).setMsgboxClass(module.msgboxClass); });
 }
 
-void nvDocumentQuillbox::setDatabaseReference(const std::shared_ptr<qb::DatabaseReference>& object) {
+void nvDocumentQuillbox::setDatabaseReference(
+    const std::shared_ptr<qb::DatabaseReference>& object) {
   Procedure proc(trace("DatabaseReference"), Procedure::Mode::Resume);
   ModuleState& module = moduleState();
   proc.step([&] {
@@ -313,7 +318,8 @@ void nvDocumentQuillbox::setCompanyIDNum(int32_t value) {
     return;
   }
   companyIDNum_ = -1;
-  if (clientType_ == enumDocQuillboxClientTypeCompany) clientType_ = static_cast<enumDocQuillboxClientType>(0);
+  if (clientType_ == enumDocQuillboxClientTypeCompany)
+    clientType_ = static_cast<enumDocQuillboxClientType>(0);
 }
 
 void nvDocumentQuillbox::setContactIDNum(int32_t value) {
@@ -324,7 +330,8 @@ void nvDocumentQuillbox::setContactIDNum(int32_t value) {
     return;
   }
   contactIDNum_ = -1;
-  if (clientType_ == enumDocQuillboxClientTypeContact) clientType_ = static_cast<enumDocQuillboxClientType>(0);
+  if (clientType_ == enumDocQuillboxClientTypeContact)
+    clientType_ = static_cast<enumDocQuillboxClientType>(0);
 }
 
 // ---- Child controls by index -----------------------------------------------

@@ -46,9 +46,10 @@ void nvDocumentQuillbox::setupDocumentsDisplay() {
   ModuleState& module = moduleState();
   proc.step([&] { screen().setMousePointer(11); });
   proc.step([&] {
-    std::string name = clientType_ == enumDocQuillboxClientTypeCompany
-                           ? modDatabaseFunctions::getCompanyNameFromCompanyID(companyIDNum_)
-                           : modDatabaseFunctions::getContactNameDisplayed(contactIDNum_, -1, false);
+    std::string name =
+        clientType_ == enumDocQuillboxClientTypeCompany
+            ? modDatabaseFunctions::getCompanyNameFromCompanyID(companyIDNum_)
+            : modDatabaseFunctions::getContactNameDisplayed(contactIDNum_, -1, false);
     lblClientName_.setCaption(objectOf(module.generalUtilities).formatCaptionText(name));
   });
   // The list lets go of its image lists before their pictures are cleared.
@@ -74,8 +75,8 @@ void nvDocumentQuillbox::setupDocumentsDisplay() {
       proc.step([&] { wasSorted = lvDocuments_.Sorted(); });
       proc.step([&] { lvDocuments_.setSorted(false); });
       proc.step([&] {
-        headerGradient_.setCaption(
-            objectOf(module.generalUtilities).formatCaptionText(objectOf(category_).categoryName()));
+        headerGradient_.setCaption(objectOf(module.generalUtilities)
+                                       .formatCaptionText(objectOf(category_).categoryName()));
       });
       bool more = false;
       proc.step([&] { objectOf(category_).moveFirstDocument(more); });
@@ -100,31 +101,37 @@ void nvDocumentQuillbox::setupDocumentsDisplay() {
           proc.step([&] { theRow().setText(objectOf(document).documentName()); });
           proc.step([&] {
             theRow().setTag(kDocumentTag + std::to_string(objectOf(document).documentID()) +
-                        kTagPathMark + path);
+                            kTagPathMark + path);
           });
           // Size and dates come from the file itself, read afresh for each row.
           auto fileDate = [&](int16_t kind) {
-            return Format(objectOf(module.fileUtilities).getFileDate(path, kind, true), kFileDateFormat);
+            return Format(objectOf(module.fileUtilities).getFileDate(path, kind, true),
+                          kFileDateFormat);
           };
           proc.step([&] {
-            theRow().ListSubItems().Add(1, "", sizeText(objectOf(module.fileUtilities).getFileSize(path)));
+            theRow().ListSubItems().Add(1, "",
+                                        sizeText(objectOf(module.fileUtilities).getFileSize(path)));
           });
           proc.step([&] { theRow().ListSubItems().Add(2, "", fileDate(fileDateLastModified)); });
           proc.step([&] { theRow().ListSubItems().Add(3, "", objectOf(document).documentPath()); });
-          proc.step([&] { theRow().ListSubItems().Add(4, "", objectOf(document).hostComputerName()); });
+          proc.step(
+              [&] { theRow().ListSubItems().Add(4, "", objectOf(document).hostComputerName()); });
           proc.step([&] { theRow().ListSubItems().Add(5, "", fileDate(fileDateCreated)); });
           proc.step([&] { theRow().ListSubItems().Add(6, "", fileDate(fileDateLastAccessed)); });
           proc.step([&] {
             theRow().ListSubItems().Add(
-                7, "", modDatabaseFunctions::getUserNameFromUserID(objectOf(document).addedByUserID()));
+                7, "",
+                modDatabaseFunctions::getUserNameFromUserID(objectOf(document).addedByUserID()));
           });
           // Each row's pictures go in at the row's Index under "Key:<Index>"; a
           // row without a picture leaves a gap that the next row's Add refuses.
           auto addPicture = [&](ImageList& images, const Picture& picture) {
             if (picture.isEmpty()) return;
-            images.ListImages().Add(theRow().Index(), "Key:" + std::to_string(theRow().Index()), picture);
+            images.ListImages().Add(theRow().Index(), "Key:" + std::to_string(theRow().Index()),
+                                    picture);
           };
-          proc.step([&] { addPicture(iglListViewSmallIcons_, objectOf(document).smallIconPicture()); });
+          proc.step(
+              [&] { addPicture(iglListViewSmallIcons_, objectOf(document).smallIconPicture()); });
           proc.step([&] { addPicture(iglListViewIcons_, objectOf(document).largeIconPicture()); });
           // The pump may run a nested fill that empties the list: the row is
           // not touched after it.
@@ -219,7 +226,8 @@ void nvDocumentQuillbox::lvDocuments_MouseUp(int16_t button, int16_t, float x, f
 // ---- Load progress ---------------------------------------------------------
 
 void nvDocumentQuillbox::DocQuillboxCategoryClass_startLoadDocumentProgress(int32_t& maximum) {
-  Procedure proc("Orvanta.exe-nvDocumentQuillbox-DocQuillboxCategoryClass_startLoadDocumentProgress");
+  Procedure proc(
+      "Orvanta.exe-nvDocumentQuillbox-DocQuillboxCategoryClass_startLoadDocumentProgress");
   proc.step([&] { picDocProgress_.setVisible(true); });
   proc.step([&] { Progress1_.setMax(static_cast<float>(maximum)); });
   proc.step([&] { Progress1_.setMin(0); });

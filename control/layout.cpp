@@ -112,10 +112,12 @@ void nvDocumentQuillbox::resizeSplitter() {
 
   // The progress panel, centred on the list.
   proc.step([&] {
-    picDocProgress_.setLeft((lvDocuments_.Width() - picDocProgress_.Width()) / 2 + lvDocuments_.Left());
+    picDocProgress_.setLeft((lvDocuments_.Width() - picDocProgress_.Width()) / 2 +
+                            lvDocuments_.Left());
   });
   proc.step([&] {
-    picDocProgress_.setTop((lvDocuments_.Height() - picDocProgress_.Height()) / 2 + lvDocuments_.Top());
+    picDocProgress_.setTop((lvDocuments_.Height() - picDocProgress_.Height()) / 2 +
+                           lvDocuments_.Top());
   });
   proc.step([&] { Refresh(); });
 }

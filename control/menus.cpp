@@ -25,7 +25,9 @@ struct MenuEntry {
 // The list menus share their entries; the second copy takes the names with
 // suffix.
 std::vector<MenuEntry> listEntries(bool second) {
-  auto named = [second](const char* plain, const char* numbered) { return second ? numbered : plain; };
+  auto named = [second](const char* plain, const char* numbered) {
+    return second ? numbered : plain;
+  };
   return {
       {named("mnuAddFiles", "mnuAddFiles2"), "Add Shortcuts"},
       {named("mnuRemoveFiles", "mnuRemoveFiles2"), "Remove Shortcuts"},
@@ -114,7 +116,8 @@ void nvDocumentQuillbox::buildMenus() {
   }
 }
 
-void nvDocumentQuillbox::menuCommand(const std::string& itemName, const std::function<void()>& command) {
+void nvDocumentQuillbox::menuCommand(const std::string& itemName,
+                                     const std::function<void()>& command) {
   Procedure proc("Orvanta.exe-nvDocumentQuillbox-" + itemName + "_Click");
   proc.step(command);
 }

@@ -286,7 +286,8 @@ class nvDocumentQuillbox : public ContainerControl {
   // does (91, object variable not set).
   template <class T>
   static T& objectOf(const std::shared_ptr<T>& object) {
-    if (!object) throw RuntimeError(err::kObjectRequired, "Object variable or With block variable not set");
+    if (!object)
+      throw RuntimeError(err::kObjectRequired, "Object variable or With block variable not set");
     return *object;
   }
 

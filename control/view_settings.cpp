@@ -29,8 +29,10 @@ struct ListViewMapping {
   int32_t value;    // the public enumeration value
   int16_t setting;  // View, SortOrder or Arrange of the ListView
 };
-constexpr ListViewMapping kViewMapping[] = {
-    {viewIcons, lvwIcon}, {viewSmallIcons, lvwSmallIcon}, {viewList, lvwList}, {viewDetails, lvwReport}};
+constexpr ListViewMapping kViewMapping[] = {{viewIcons, lvwIcon},
+                                            {viewSmallIcons, lvwSmallIcon},
+                                            {viewList, lvwList},
+                                            {viewDetails, lvwReport}};
 // sortNone turns sorting off; the others sort on the name column.
 constexpr ListViewMapping kSortMapping[] = {
     {sortNone, -1}, {sortAscending, lvwAscending}, {SortDescending, lvwDescending}};
@@ -51,11 +53,14 @@ struct DefaultColumn {
   float width;
   int16_t alignment;
 };
-constexpr DefaultColumn kDefaultColumns[] = {
-    {"Name", 2200, lvwColumnLeft},           {"Size", 1000, lvwColumnRight},
-    {"Date Modified", 2000, lvwColumnLeft},  {"Path", 4000, lvwColumnLeft},
-    {"Host Computer Name", 1000, lvwColumnLeft}, {"Date Created", 2000, lvwColumnLeft},
-    {"Date Last Accessed", 2000, lvwColumnLeft}, {"File Added By", 1000, lvwColumnLeft}};
+constexpr DefaultColumn kDefaultColumns[] = {{"Name", 2200, lvwColumnLeft},
+                                             {"Size", 1000, lvwColumnRight},
+                                             {"Date Modified", 2000, lvwColumnLeft},
+                                             {"Path", 4000, lvwColumnLeft},
+                                             {"Host Computer Name", 1000, lvwColumnLeft},
+                                             {"Date Created", 2000, lvwColumnLeft},
+                                             {"Date Last Accessed", 2000, lvwColumnLeft},
+                                             {"File Added By", 1000, lvwColumnLeft}};
 
 // A number of twips as the layout text keeps it (single precision).
 std::string twipsText(float twips) { return numberToText(static_cast<double>(twips)); }
@@ -115,14 +120,16 @@ void nvDocumentQuillbox::getDocQuillboxListViewSettings() {
       if (!isBlankValue(text)) savedColumnsXML_ = CStr(text);
     });
     proc.step([&] {
-      changeDocListViewView(static_cast<enumListViewViews>(numberOr("DocQuillboxListViewType", viewIcons)));
+      changeDocListViewView(
+          static_cast<enumListViewViews>(numberOr("DocQuillboxListViewType", viewIcons)));
     });
     proc.step([&] {
-      changeDocListViewSort(static_cast<enumListViewSort>(numberOr("DocQuillboxViewSort", sortAscending)));
+      changeDocListViewSort(
+          static_cast<enumListViewSort>(numberOr("DocQuillboxViewSort", sortAscending)));
     });
     proc.step([&] {
-      changeDocListViewArrangeIcons(
-          static_cast<enumListViewArrangeIcons>(numberOr("DocQuillboxArrangeIcons", arrangeIconsLeft)));
+      changeDocListViewArrangeIcons(static_cast<enumListViewArrangeIcons>(
+          numberOr("DocQuillboxArrangeIcons", arrangeIconsLeft)));
     });
     proc.step([&] {
       const char* column = DocQuillboxProgram_ == 1   ? "BusinessDocQuillboxSplitter"
@@ -184,7 +191,8 @@ void nvDocumentQuillbox::changeDocListViewView(enumListViewViews currentView) {
   if (const ListViewMapping* mapping = findMapping(kViewMapping, currentView)) {
     proc.step([&] { ListViewViews_ = currentView; });
     if (currentView == viewList) {
-      proc.step([&] { objectOf(moduleState().generalUtilities).setListViewListMode(lvDocuments_); });
+      proc.step(
+          [&] { objectOf(moduleState().generalUtilities).setListViewListMode(lvDocuments_); });
     } else {
       if (currentView == viewDetails) proc.step([&] { restoreDocQuillboxColumns(); });
       proc.step([&] { lvDocuments_.setView(mapping->setting); });
@@ -208,7 +216,8 @@ void nvDocumentQuillbox::changeDocListViewSort(enumListViewSort currentSort) {
   proc.step([&] { refreshDocListView(); });
 }
 
-void nvDocumentQuillbox::changeDocListViewArrangeIcons(enumListViewArrangeIcons currentArrangeIcons) {
+void nvDocumentQuillbox::changeDocListViewArrangeIcons(
+    enumListViewArrangeIcons currentArrangeIcons) {
   Procedure proc("Orvanta.exe-nvDocumentQuillbox-changeDocListViewArrangeIcons");
   if (const ListViewMapping* mapping = findMapping(kArrangeMapping, currentArrangeIcons)) {
     proc.step([&] { ListViewArrangeIcons_ = currentArrangeIcons; });

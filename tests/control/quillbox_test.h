@@ -1,11 +1,10 @@
 #pragma once
 // The component's test host: a fresh client database with a small firm (two
-// companies, a contact, a user, categories and document links to real files
-// in the test's folder), recording error and message objects, a fixed locale,
-// and one component, bound and started as a host does.
+// companies, a contact, a user, categories, links to real files in the test's
+// folder), recording error and message objects, a fixed locale, and one
+// component bound and started as a host does.
 
 #include <gtest/gtest.h>
-
 #include <sys/time.h>
 
 #include <ctime>
@@ -29,45 +28,37 @@ class QuillboxTest : public ::testing::Test {
   QuillboxTest() {
     resetModuleState();  // the component hands the service objects in itself
     resetPlatform();
-    returnPdf = db.folder().writeFileOfSize("docs/return.pdf", 1572864);
-    notesTxt = db.folder().writeFileOfSize("docs/notes.txt", 0);
-    budgetXlsx = db.folder().writeFileOfSize("docs/budget.xlsx", 2048);
-    letterDoc = db.folder().writeFileOfSize("docs/letter.doc", 100);
-    setFileTimes(returnPdf, 2024, 3, 5, 14, 7);
     db.exec(
-        "INSERT INTO Companies (CompanyID, CompanyName) VALUES (1, 'Acme Holdings'), (2, 'Birch Farms');"
+        "INSERT INTO Companies (CompanyID, CompanyName) VALUES (1, 'Acme Holdings'), (2, 'Birch');"
         "INSERT INTO Contacts (ContactID, DisplayName) VALUES (5, 'Ann Lee');"
         "INSERT INTO AccountantEmployeeInfo (ContactID, UserName) VALUES (1, 'jsmith');"
         "INSERT INTO DocCategories (DocCategoryID, DocCategoryNum, CompanyIDNum, ContactIDNum,"
-        " DocCategoryName, DocCategorySpecialType) VALUES"
-        " (1, NULL, 1, NULL, 'Acme Holdings', 1), (2, 1, 1, NULL, 'Taxes', 0),"
-        " (3, 1, 1, NULL, 'Letters', 0), (4, 1, 1, NULL, 'Empty', 0),"
+        " DocCategoryName, DocCategorySpecialType) VALUES (1, NULL, 1, NULL, 'Acme Holdings', 1),"
+        " (2, 1, 1, NULL, 'Taxes', 0), (3, 1, 1, NULL, 'Letters', 0), (4, 1, 1, NULL, 'Empty', 0),"
         " (7, NULL, NULL, 5, 'Ann Lee', 1);");
-    addDocument(10, 2, returnPdf, "2025 Return", 1);
-    addDocument(11, 2, notesTxt, "Notes", 1);
-    addDocument(12, 2, budgetXlsx, "Budget", 2);
-    addDocument(13, 3, letterDoc, "Letter", 1);
+    returnPdf = addDocument(10, 2, "return.pdf", 1572864, "2025 Return", 1);
+    notesTxt = addDocument(11, 2, "notes.txt", 0, "Notes", 1);
+    budgetXlsx = addDocument(12, 2, "budget.xlsx", 2048, "Budget", 2);
+    letterDoc = addDocument(13, 3, "letter.doc", 100, "Letter", 1);
+    // Modified and accessed 5 March 2024, 14:07 local time.
+    std::tm local{};
+    local.tm_year = 124, local.tm_mon = 2, local.tm_mday = 5, local.tm_hour = 14, local.tm_min = 7;
+    local.tm_isdst = -1;
+    timeval times[2] = {{std::mktime(&local), 0}, {std::mktime(&local), 0}};
+    utimes(returnPdf.c_str(), times);
   }
   ~QuillboxTest() override { resetPlatform(); }
 
-  void addDocument(int id, int category, const std::string& path, const std::string& name, int user) {
-    db.exec("INSERT INTO Documents (DocumentID, CompanyIDNum, DocCategoryNum, DocPath, DocIconName,"
-            " DocHostComputerName, DocAddedByUserIDNum) VALUES (" +
-            std::to_string(id) + ", 1, " + std::to_string(category) + ", '" + path + "', '" + name +
-            "', 'OFFICE-1', " + std::to_string(user) + ");");
-  }
-
-  // Sets a file's modified and accessed times to a local date and time.
-  static void setFileTimes(const std::string& path, int year, int month, int day, int hour, int minute) {
-    std::tm local{};
-    local.tm_year = year - 1900;
-    local.tm_mon = month - 1;
-    local.tm_mday = day;
-    local.tm_hour = hour;
-    local.tm_min = minute;
-    local.tm_isdst = -1;
-    timeval times[2] = {{std::mktime(&local), 0}, {std::mktime(&local), 0}};
-    utimes(path.c_str(), times);
+  // A file of the size in the test's folder and a link to it; returns its path.
+  std::string addDocument(int id, int category, const std::string& file, size_t bytes,
+                          const std::string& name, int user) {
+    std::string path = db.folder().writeFileOfSize("docs/" + file, bytes);
+    db.exec(
+        "INSERT INTO Documents (DocumentID, CompanyIDNum, DocCategoryNum, DocPath, DocIconName,"
+        " DocHostComputerName, DocAddedByUserIDNum) VALUES (" +
+        std::to_string(id) + ", 1, " + std::to_string(category) + ", '" + path + "', '" + name +
+        "', 'OFFICE-1', " + std::to_string(user) + ");");
+    return path;
   }
 
   // Initialize and the five service objects, in the host's order.
@@ -80,8 +71,7 @@ class QuillboxTest : public ::testing::Test {
     q.setLocaleReference(locale);
   }
 
-  // Binds, names company 1, starts and fills the tree, then sizes the
-  // component and lays it out, as a host does.
+  // Binds, names company 1, starts, fills the tree, sizes and lays out.
   void start(nvDocumentQuillbox& q) {
     bind(q);
     q.setCompanyIDNum(1);
@@ -96,13 +86,6 @@ class QuillboxTest : public ::testing::Test {
     TreeView& tree = q.tvClientDocumentation();
     tree.setSelectedItem(&tree.Nodes().item("Category:" + std::to_string(categoryID)));
     tree.MouseUp.raise(1, 0, 10, 10);
-  }
-
-  // The innermost trace name of every recorded failure.
-  std::vector<std::string> failedTraces() const {
-    std::vector<std::string> names;
-    for (const auto& failure : errors->failures) names.push_back(failure.stack.back());
-    return names;
   }
 
   TestDatabase db;
