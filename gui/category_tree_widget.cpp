@@ -32,7 +32,11 @@ CategoryTreeWidget::CategoryTreeWidget(TreeView& control, QWidget* parent)
   binding_.applyAll();
 }
 
-CategoryTreeWidget::~CategoryTreeWidget() { control_.setHitTestProvider({}); }
+CategoryTreeWidget::~CategoryTreeWidget() {
+  control_.setHitTestProvider({});
+  // The tree's own teardown must not reach the handlers of a half-gone widget.
+  disconnect(this, nullptr, this, nullptr);
+}
 
 void CategoryTreeWidget::applyChange(ControlChange change) {
   switch (change) {

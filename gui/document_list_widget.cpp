@@ -77,7 +77,15 @@ DocumentListWidget::DocumentListWidget(ListView& control, QWidget* parent)
   binding_.applyAll();
 }
 
-DocumentListWidget::~DocumentListWidget() { control_.setHitTestProvider({}); }
+DocumentListWidget::~DocumentListWidget() {
+  control_.setHitTestProvider({});
+  // The views' own teardown must not reach the handlers of a half-gone widget.
+  for (QObject* sender : {static_cast<QObject*>(listView_.selectionModel()),
+                          static_cast<QObject*>(detailsView_.header()), static_cast<QObject*>(&listView_),
+                          static_cast<QObject*>(&detailsView_)}) {
+    disconnect(sender, nullptr, this, nullptr);
+  }
+}
 
 QAbstractItemView& DocumentListWidget::currentView() const {
   if (control_.View() == lvwReport) return const_cast<ForwardingView<QTreeView>&>(detailsView_);

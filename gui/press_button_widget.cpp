@@ -26,7 +26,6 @@ constexpr ButtonIcon kButtonIcons[] = {
 
 PressButtonWidget::PressButtonWidget(CommandButton& control, QWidget* parent)
     : QPushButton(parent), control_(control), binding_(control, *this, [this](ControlChange c) { applyChange(c); }) {
-  setFocusPolicy(Qt::TabFocus);
   for (const ButtonIcon& entry : kButtonIcons) {
     if (entry.control == control.Name() && entry.index == control.Index()) {
       setIcon(QIcon::fromTheme(entry.icon));

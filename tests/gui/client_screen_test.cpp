@@ -101,10 +101,14 @@ TEST_F(DeskTest, ShowsTheFourViewsAndSavesScreenshots) {
   quillbox().changeDocListViewView(viewSmallIcons);
   EXPECT_EQ(widget.listView().viewMode(), QListView::ListMode);
   EXPECT_EQ(widget.listView().flow(), QListView::LeftToRight);
+  settle();
+  expectListShowsModel(widget);
+  screenshot("client-documents-small-icons");
   quillbox().changeDocListViewView(viewList);
   EXPECT_EQ(widget.listView().flow(), QListView::TopToBottom);
   settle();
   expectListShowsModel(widget);
+  screenshot("client-documents-list");
 
   // The window's view menu follows the component.
   for (QAction* action : window_->findChildren<QAction*>()) {

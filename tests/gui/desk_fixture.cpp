@@ -7,6 +7,10 @@
 #include "gui/theme_icons.h"
 #include "services/store/sample_firm.h"
 
+// The desktop's font library keeps its caches for the life of the process;
+// the leak checker of the sanitizer build is told so.
+extern "C" const char* __lsan_default_suppressions() { return "leak:libfontconfig\n"; }
+
 namespace qb::test {
 
 namespace {
