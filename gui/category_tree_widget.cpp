@@ -9,9 +9,7 @@
 namespace qb::gui {
 
 CategoryTreeWidget::CategoryTreeWidget(TreeView& control, QWidget* parent)
-    : ForwardingView<QTreeWidget>(parent),
-      control_(control),
-      binding_(control, *this, [this](ControlChange c) { applyChange(c); }) {
+    : BoundWidget(control, parent) {
   setColumnCount(1);
   header()->hide();
   setRootIsDecorated(true);
@@ -20,20 +18,20 @@ CategoryTreeWidget::CategoryTreeWidget(TreeView& control, QWidget* parent)
   setSelectionMode(QAbstractItemView::SingleSelection);
   setExpandsOnDoubleClick(true);
   setFrameShape(QFrame::StyledPanel);
-  forwardTo(&binding_.input(), false);
+  forwardTo(&binding().input(), false);
   connect(this, &QTreeWidget::currentItemChanged, this,
           [this](QTreeWidgetItem* current) { userChangedCurrent(current); });
   connect(this, &QTreeWidget::itemExpanded, this, [this](QTreeWidgetItem* item) { userExpanded(item, true); });
   connect(this, &QTreeWidget::itemCollapsed, this, [this](QTreeWidgetItem* item) { userExpanded(item, false); });
-  control_.setHitTestProvider([this](float x, float y) -> Node* {
+  this->control().setHitTestProvider([this](float x, float y) -> Node* {
     const QPoint point = viewport()->mapFrom(this, QPoint(toPixels(x), toPixels(y)));
     return nodeOf(itemAt(point));
   });
-  binding_.applyAll();
+  binding().applyAll();
 }
 
 CategoryTreeWidget::~CategoryTreeWidget() {
-  control_.setHitTestProvider({});
+  control().setHitTestProvider({});
   // The tree's own teardown must not reach the handlers of a half-gone widget.
   disconnect(this, nullptr, this, nullptr);
 }
@@ -57,7 +55,7 @@ void CategoryTreeWidget::rebuild() {
     clear();
     items_.clear();
     nodes_.clear();
-    for (Node* root : control_.roots()) addItems(*root, nullptr);
+    for (Node* root : control().roots()) addItems(*root, nullptr);
   });
   applyIcons();
   applyExpansion();
@@ -80,7 +78,7 @@ void CategoryTreeWidget::applyTexts() {
 
 void CategoryTreeWidget::applyIcons() {
   for (auto it = items_.constBegin(); it != items_.constEnd(); ++it) {
-    it.value()->setIcon(0, iconFor(control_.pictureOf(*it.key())));
+    it.value()->setIcon(0, iconFor(control().pictureOf(*it.key())));
   }
 }
 
@@ -94,7 +92,7 @@ void CategoryTreeWidget::applyExpansion() {
 
 void CategoryTreeWidget::applySelection() {
   quietly(syncing_, [this] {
-    QTreeWidgetItem* item = itemOf(control_.SelectedItem());
+    QTreeWidgetItem* item = itemOf(control().SelectedItem());
     if (item == currentItem()) return;
     if (item == nullptr) {
       clearSelection();
@@ -113,9 +111,9 @@ void CategoryTreeWidget::userChangedCurrent(QTreeWidgetItem* current) {
   // A click selects the node as the user's click; the keys move the
   // selection without one.
   if (pressing()) {
-    control_.userClickNode(*node);
+    control().userClickNode(*node);
   } else {
-    control_.setSelectedItem(node);
+    control().setSelectedItem(node);
   }
 }
 
@@ -124,9 +122,9 @@ void CategoryTreeWidget::userExpanded(QTreeWidgetItem* item, bool expanded) {
   Node* node = nodeOf(item);
   if (node == nullptr || node->Expanded() == expanded) return;
   if (expanded) {
-    control_.userExpand(*node);
+    control().userExpand(*node);
   } else {
-    control_.userCollapse(*node);
+    control().userCollapse(*node);
   }
 }
 

@@ -11,25 +11,26 @@
 #include <QHash>
 #include <QTreeWidget>
 
-#include "gui/control_binding.h"
+#include "gui/bound_widget.h"
 #include "gui/forwarding_view.h"
 #include "services/controls/tree_view.h"
 
 namespace qb::gui {
 
-class CategoryTreeWidget : public ForwardingView<QTreeWidget> {
+class CategoryTreeWidget : public BoundWidget<ForwardingView<QTreeWidget>, TreeView> {
  public:
   CategoryTreeWidget(TreeView& control, QWidget* parent);
   ~CategoryTreeWidget() override;
 
-  TreeView& control() const { return control_; }
   // The item that shows node, nullptr when none does.
   QTreeWidgetItem* itemOf(const Node* node) const { return items_.value(node, nullptr); }
   // The node an item shows, nullptr for none.
   Node* nodeOf(const QTreeWidgetItem* item) const { return nodes_.value(item, nullptr); }
 
+ protected:
+  void applyChange(ControlChange change) override;
+
  private:
-  void applyChange(ControlChange change);
   void rebuild();
   void addItems(Node& node, QTreeWidgetItem* parent);
   void applyTexts();
@@ -39,8 +40,6 @@ class CategoryTreeWidget : public ForwardingView<QTreeWidget> {
   void userChangedCurrent(QTreeWidgetItem* current);
   void userExpanded(QTreeWidgetItem* item, bool expanded);
 
-  TreeView& control_;
-  ControlBinding binding_;
   QHash<const Node*, QTreeWidgetItem*> items_;
   QHash<const QTreeWidgetItem*, Node*> nodes_;
   bool syncing_ = false;

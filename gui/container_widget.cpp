@@ -12,15 +12,15 @@
 namespace qb::gui {
 
 ContainerWidget::ContainerWidget(ContainerControl& control, QWidget* parent)
-    : QWidget(parent), control_(control), binding_(control, *this) {
-  binding_.forwardInputFrom(*this, true);
-  binding_.applyAll();
+    : BoundWidget(control, parent) {
+  binding().forwardInputFrom(*this, true);
+  binding().applyAll();
 }
 
 void ContainerWidget::paintEvent(QPaintEvent*) {
   QPainter painter(this);
-  painter.fillRect(rect(), toQColor(control_.BackColor(), palette()));
-  if (control_.BorderStyle() == 1) {
+  painter.fillRect(rect(), toQColor(control().BackColor(), palette()));
+  if (control().BorderStyle() == 1) {
     QStyleOptionFrame frame;
     frame.initFrom(this);
     frame.frameShape = QFrame::StyledPanel;
@@ -28,14 +28,14 @@ void ContainerWidget::paintEvent(QPaintEvent*) {
     frame.lineWidth = 1;
     style()->drawPrimitive(QStyle::PE_Frame, &frame, &painter, this);
   }
-  if (auto* picture = dynamic_cast<PictureBox*>(&control_); picture && !picture->Picture().isEmpty()) {
+  if (auto* picture = dynamic_cast<PictureBox*>(&control()); picture && !picture->Picture().isEmpty()) {
     const int size = picture->Picture().size > 0 ? picture->Picture().size : 32;
     iconFor(picture->Picture()).paint(&painter, QRect(0, 0, size, size), Qt::AlignLeft | Qt::AlignTop);
   }
-  if (dynamic_cast<Frame*>(&control_) != nullptr && !control_.Caption().empty()) {
+  if (dynamic_cast<Frame*>(&control()) != nullptr && !control().Caption().empty()) {
     painter.setPen(palette().color(QPalette::WindowText));
     painter.drawText(rect().adjusted(6, 2, -6, 0), Qt::AlignLeft | Qt::AlignTop,
-                     QString::fromStdString(control_.Caption()));
+                     QString::fromStdString(control().Caption()));
   }
 }
 

@@ -6,24 +6,17 @@
 
 #include <QWidget>
 
-#include "gui/control_binding.h"
+#include "gui/bound_widget.h"
 #include "services/controls/container_control.h"
 
 namespace qb::gui {
 
-class ContainerWidget : public QWidget {
+class ContainerWidget : public BoundWidget<QWidget, ContainerControl> {
  public:
   ContainerWidget(ContainerControl& control, QWidget* parent);
 
-  ContainerControl& control() const { return control_; }
-  ControlBinding& binding() { return binding_; }
-
  protected:
   void paintEvent(QPaintEvent* event) override;
-
- private:
-  ContainerControl& control_;
-  ControlBinding binding_;
 };
 
 }  // namespace qb::gui

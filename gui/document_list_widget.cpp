@@ -10,13 +10,11 @@
 namespace qb::gui {
 
 DocumentListWidget::DocumentListWidget(ListView& control, QWidget* parent)
-    : QWidget(parent),
-      control_(control),
+    : BoundWidget(control, parent),
       model_(control),
       listView_(this),
       detailsView_(this),
-      pages_(new QStackedLayout(this)),
-      binding_(control, *this, [this](ControlChange c) { applyChange(c); }) {
+      pages_(new QStackedLayout(this)) {
   pages_->setContentsMargins(0, 0, 0, 0);
   pages_->addWidget(&listView_);
   pages_->addWidget(&detailsView_);
@@ -34,8 +32,8 @@ DocumentListWidget::DocumentListWidget(ListView& control, QWidget* parent)
     view->setEditTriggers(QAbstractItemView::NoEditTriggers);
     view->setFrameShape(QFrame::StyledPanel);
   }
-  listView_.forwardTo(&binding_.input(), true);
-  detailsView_.forwardTo(&binding_.input(), true);
+  listView_.forwardTo(&binding().input(), true);
+  detailsView_.forwardTo(&binding().input(), true);
   listView_.setUniformItemSizes(true);
   listView_.setTextElideMode(Qt::ElideRight);
   detailsView_.setRootIsDecorated(false);
@@ -64,21 +62,21 @@ DocumentListWidget::DocumentListWidget(ListView& control, QWidget* parent)
   for (QAbstractItemView* view : {static_cast<QAbstractItemView*>(&listView_),
                                   static_cast<QAbstractItemView*>(&detailsView_)}) {
     connect(view, &QAbstractItemView::clicked, this, [this](const QModelIndex& index) {
-      if (ListItem* item = model_.itemAt(index)) control_.ItemClick.raise(*item);
-      control_.Click.raise();
+      if (ListItem* item = model_.itemAt(index)) this->control().ItemClick.raise(*item);
+      this->control().Click.raise();
     });
   }
 
-  control_.setHitTestProvider([this](float x, float y) -> ListItem* {
+  this->control().setHitTestProvider([this](float x, float y) -> ListItem* {
     QAbstractItemView& view = currentView();
     const QPoint point = view.viewport()->mapFrom(this, QPoint(toPixels(x), toPixels(y)));
     return model_.itemAt(view.indexAt(point));
   });
-  binding_.applyAll();
+  binding().applyAll();
 }
 
 DocumentListWidget::~DocumentListWidget() {
-  control_.setHitTestProvider({});
+  control().setHitTestProvider({});
   // The views' own teardown must not reach the handlers of a half-gone widget.
   for (QObject* sender : {static_cast<QObject*>(listView_.selectionModel()),
                           static_cast<QObject*>(detailsView_.header()), static_cast<QObject*>(&listView_),
@@ -88,7 +86,7 @@ DocumentListWidget::~DocumentListWidget() {
 }
 
 QAbstractItemView& DocumentListWidget::currentView() const {
-  if (control_.View() == lvwReport) return const_cast<ForwardingView<QTreeView>&>(detailsView_);
+  if (control().View() == lvwReport) return const_cast<ForwardingView<QTreeView>&>(detailsView_);
   return const_cast<ForwardingView<QListView>&>(listView_);
 }
 
@@ -112,7 +110,7 @@ void DocumentListWidget::applyChange(ControlChange change) {
 }
 
 void DocumentListWidget::applyView() {
-  const bool details = control_.View() == lvwReport;
+  const bool details = control().View() == lvwReport;
   QAbstractItemView& shown = currentView();
   if (pages_->currentWidget() != &shown) {
     const bool hadFocus = pages_->currentWidget() && pages_->currentWidget()->hasFocus();
@@ -127,7 +125,7 @@ void DocumentListWidget::applyView() {
 }
 
 void DocumentListWidget::applyListMode() {
-  const int16_t view = control_.View();
+  const int16_t view = control().View();
   // Setting the mode resets flow, wrapping and movement: it goes first.
   listView_.setViewMode(view == lvwIcon ? QListView::IconMode : QListView::ListMode);
   listView_.setMovement(QListView::Static);
@@ -136,7 +134,7 @@ void DocumentListWidget::applyListMode() {
   listView_.setWordWrap(view == lvwIcon);
   if (view == lvwIcon) {
     // Arranged to the left the icons fill columns; otherwise rows.
-    listView_.setFlow(control_.Arrange() == lvwAutoLeft ? QListView::TopToBottom : QListView::LeftToRight);
+    listView_.setFlow(control().Arrange() == lvwAutoLeft ? QListView::TopToBottom : QListView::LeftToRight);
     listView_.setIconSize(QSize(32, 32));
     listView_.setGridSize(QSize(104, 72));
     listView_.setSpacing(0);
@@ -146,7 +144,7 @@ void DocumentListWidget::applyListMode() {
     listView_.setGridSize(QSize(view == lvwSmallIcon ? 190 : 220, 22));
     listView_.setSpacing(0);
   }
-  const bool multi = control_.MultiSelect();
+  const bool multi = control().MultiSelect();
   for (QAbstractItemView* v : {static_cast<QAbstractItemView*>(&listView_),
                                static_cast<QAbstractItemView*>(&detailsView_)}) {
     v->setSelectionMode(multi ? QAbstractItemView::ExtendedSelection : QAbstractItemView::SingleSelection);
@@ -155,9 +153,9 @@ void DocumentListWidget::applyListMode() {
 
 void DocumentListWidget::applyColumns() {
   QHeaderView* header = detailsView_.header();
-  const ColumnHeaderCollection& columns = control_.ColumnHeaders();
+  const ColumnHeaderCollection& columns = control().ColumnHeaders();
   quietly(syncing_, [&] {
-    header->setVisible(!control_.HideColumnHeaders());
+    header->setVisible(!control().HideColumnHeaders());
     for (int32_t i = 1; i <= columns.Count() && i <= model_.columnCount(); ++i) {
       const ColumnHeader& column = columns.item(i);
       const int section = i - 1;
@@ -167,10 +165,10 @@ void DocumentListWidget::applyColumns() {
       const int visual = header->visualIndex(section);
       if (visual != column.Position() - 1) header->moveSection(visual, column.Position() - 1);
     }
-    header->setSortIndicatorShown(control_.Sorted() && control_.SortKey() < model_.columnCount());
-    if (control_.Sorted()) {
-      header->setSortIndicator(control_.SortKey(),
-                               control_.SortOrder() == lvwDescending ? Qt::DescendingOrder : Qt::AscendingOrder);
+    header->setSortIndicatorShown(control().Sorted() && control().SortKey() < model_.columnCount());
+    if (control().Sorted()) {
+      header->setSortIndicator(control().SortKey(),
+                               control().SortOrder() == lvwDescending ? Qt::DescendingOrder : Qt::AscendingOrder);
     }
   });
 }
@@ -179,12 +177,12 @@ void DocumentListWidget::applySelection() {
   quietly(syncing_, [this] {
     QItemSelectionModel* selection = listView_.selectionModel();
     QItemSelection rows;
-    for (ListItem* item : control_.selectedItems()) {
+    for (ListItem* item : control().selectedItems()) {
       const QModelIndex first = model_.indexOf(*item);
       if (first.isValid()) rows.select(first, first.siblingAtColumn(model_.columnCount() - 1));
     }
     selection->select(rows, QItemSelectionModel::ClearAndSelect);
-    ListItem* current = control_.SelectedItem();
+    ListItem* current = control().SelectedItem();
     selection->setCurrentIndex(current ? model_.indexOf(*current) : QModelIndex(),
                                QItemSelectionModel::NoUpdate);
   });
@@ -194,16 +192,16 @@ void DocumentListWidget::userChangedSelection() {
   if (syncing_) return;
   quietly(syncing_, [this] {
     QItemSelectionModel* selection = listView_.selectionModel();
-    const int32_t count = control_.ListItems().Count();
+    const int32_t count = control().ListItems().Count();
     // Rows that left the selection first, so that a single-selection list
     // never holds two; the current row last, so that it is SelectedItem.
     for (int32_t i = 1; i <= count; ++i) {
-      ListItem& item = control_.ListItems().item(i);
+      ListItem& item = control().ListItems().item(i);
       if (item.Selected() && !selection->isRowSelected(i - 1, QModelIndex())) item.setSelected(false);
     }
     ListItem* current = model_.itemAt(selection->currentIndex());
     for (int32_t i = 1; i <= count; ++i) {
-      ListItem& item = control_.ListItems().item(i);
+      ListItem& item = control().ListItems().item(i);
       if (&item != current && !item.Selected() && selection->isRowSelected(i - 1, QModelIndex())) {
         item.setSelected(true);
       }
@@ -213,21 +211,21 @@ void DocumentListWidget::userChangedSelection() {
 }
 
 void DocumentListWidget::userResizedColumn(int section, int newSize) {
-  if (syncing_ || section >= control_.ColumnHeaders().Count()) return;
-  quietly(syncing_, [&] { control_.ColumnHeaders().item(section + 1).setWidth(toTwips(newSize)); });
+  if (syncing_ || section >= control().ColumnHeaders().Count()) return;
+  quietly(syncing_, [&] { control().ColumnHeaders().item(section + 1).setWidth(toTwips(newSize)); });
 }
 
 void DocumentListWidget::userMovedColumn(int section, int newVisual) {
-  if (syncing_ || section >= control_.ColumnHeaders().Count()) return;
+  if (syncing_ || section >= control().ColumnHeaders().Count()) return;
   quietly(syncing_, [&] {
-    control_.ColumnHeaders().item(section + 1).setPosition(static_cast<int16_t>(newVisual + 1));
+    control().ColumnHeaders().item(section + 1).setPosition(static_cast<int16_t>(newVisual + 1));
   });
   applyColumns();
 }
 
 void DocumentListWidget::userClickedColumn(int section) {
-  if (section >= control_.ColumnHeaders().Count()) return;
-  control_.userClickColumn(control_.ColumnHeaders().item(section + 1));
+  if (section >= control().ColumnHeaders().Count()) return;
+  control().userClickColumn(control().ColumnHeaders().item(section + 1));
 }
 
 }  // namespace qb::gui

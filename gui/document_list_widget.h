@@ -15,7 +15,7 @@
 #include <QTreeView>
 #include <QWidget>
 
-#include "gui/control_binding.h"
+#include "gui/bound_widget.h"
 #include "gui/forwarding_view.h"
 #include "gui/list_view_item_model.h"
 #include "services/controls/list_view.h"
@@ -24,20 +24,21 @@ class QStackedLayout;
 
 namespace qb::gui {
 
-class DocumentListWidget : public QWidget {
+class DocumentListWidget : public BoundWidget<QWidget, ListView> {
  public:
   DocumentListWidget(ListView& control, QWidget* parent);
   ~DocumentListWidget() override;
 
-  ListView& control() const { return control_; }
   ListViewItemModel& itemModel() { return model_; }
   // The view on show: the list view for views 0 to 2, the details view for 3.
   QAbstractItemView& currentView() const;
   QListView& listView() { return listView_; }
   QTreeView& detailsView() { return detailsView_; }
 
+ protected:
+  void applyChange(ControlChange change) override;
+
  private:
-  void applyChange(ControlChange change);
   void applyView();
   void applyListMode();
   void applyColumns();
@@ -47,12 +48,10 @@ class DocumentListWidget : public QWidget {
   void userMovedColumn(int section, int newVisual);
   void userClickedColumn(int section);
 
-  ListView& control_;
   ListViewItemModel model_;
   ForwardingView<QListView> listView_;
   ForwardingView<QTreeView> detailsView_;
   QStackedLayout* pages_;
-  ControlBinding binding_;
   bool syncing_ = false;
 };
 

@@ -15,9 +15,9 @@ int16_t buttonNumber(Qt::MouseButton button) {
 
 int16_t buttonState(Qt::MouseButtons buttons) {
   int16_t state = 0;
-  if (buttons & Qt::LeftButton) state |= 1;
-  if (buttons & Qt::RightButton) state |= 2;
-  if (buttons & Qt::MiddleButton) state |= 4;
+  for (Qt::MouseButton button : {Qt::LeftButton, Qt::RightButton, Qt::MiddleButton}) {
+    if (buttons & button) state |= buttonNumber(button);
+  }
   return state;
 }
 

@@ -4,20 +4,17 @@
 
 #include <QLabel>
 
-#include "gui/control_binding.h"
+#include "gui/bound_widget.h"
 #include "services/controls/label.h"
 
 namespace qb::gui {
 
-class LabelWidget : public QLabel {
+class LabelWidget : public BoundWidget<QLabel, Label> {
  public:
   LabelWidget(Label& control, QWidget* parent);
 
- private:
-  void applyChange(ControlChange change);
-
-  Label& control_;
-  ControlBinding binding_;
+ protected:
+  void applyChange(ControlChange change) override;
 };
 
 }  // namespace qb::gui

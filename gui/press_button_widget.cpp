@@ -25,20 +25,20 @@ constexpr ButtonIcon kButtonIcons[] = {
 }  // namespace
 
 PressButtonWidget::PressButtonWidget(CommandButton& control, QWidget* parent)
-    : QPushButton(parent), control_(control), binding_(control, *this, [this](ControlChange c) { applyChange(c); }) {
+    : BoundWidget(control, parent) {
   for (const ButtonIcon& entry : kButtonIcons) {
     if (entry.control == control.Name() && entry.index == control.Index()) {
       setIcon(QIcon::fromTheme(entry.icon));
       setIconSize(QSize(16, 16));
     }
   }
-  connect(this, &QPushButton::clicked, this, [this] { control_.click(); });
-  binding_.forwardInputFrom(*this, false);
-  binding_.applyAll();
+  connect(this, &QPushButton::clicked, this, [this] { this->control().click(); });
+  binding().forwardInputFrom(*this, false);
+  binding().applyAll();
 }
 
 void PressButtonWidget::applyChange(ControlChange change) {
-  if (change == ControlChange::Text) setText(QString::fromStdString(control_.Caption()));
+  if (change == ControlChange::Text) setText(QString::fromStdString(control().Caption()));
 }
 
 }  // namespace qb::gui

@@ -7,20 +7,17 @@
 
 #include <QPushButton>
 
-#include "gui/control_binding.h"
+#include "gui/bound_widget.h"
 #include "services/controls/command_button.h"
 
 namespace qb::gui {
 
-class PressButtonWidget : public QPushButton {
+class PressButtonWidget : public BoundWidget<QPushButton, CommandButton> {
  public:
   PressButtonWidget(CommandButton& control, QWidget* parent);
 
- private:
-  void applyChange(ControlChange change);
-
-  CommandButton& control_;
-  ControlBinding binding_;
+ protected:
+  void applyChange(ControlChange change) override;
 };
 
 }  // namespace qb::gui

@@ -5,16 +5,16 @@
 namespace qb::gui {
 
 ProgressBarWidget::ProgressBarWidget(ProgressBar& control, QWidget* parent)
-    : QProgressBar(parent), control_(control), binding_(control, *this, [this](ControlChange c) { applyChange(c); }) {
+    : BoundWidget(control, parent) {
   setTextVisible(false);
-  binding_.forwardInputFrom(*this, true);
-  binding_.applyAll();
+  binding().forwardInputFrom(*this, true);
+  binding().applyAll();
 }
 
 void ProgressBarWidget::applyChange(ControlChange change) {
   if (change != ControlChange::Value) return;
-  const int minimum = static_cast<int>(std::floor(control_.Min()));
-  const int maximum = static_cast<int>(std::ceil(control_.Max()));
+  const int minimum = static_cast<int>(std::floor(control().Min()));
+  const int maximum = static_cast<int>(std::ceil(control().Max()));
   // Qt shows a busy animation for an empty range; the platform an empty bar.
   if (maximum <= minimum) {
     setRange(0, 1);
@@ -22,7 +22,7 @@ void ProgressBarWidget::applyChange(ControlChange change) {
     return;
   }
   setRange(minimum, maximum);
-  setValue(static_cast<int>(std::lround(control_.Value())));
+  setValue(static_cast<int>(std::lround(control().Value())));
 }
 
 }  // namespace qb::gui

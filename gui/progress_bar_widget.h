@@ -4,20 +4,17 @@
 
 #include <QProgressBar>
 
-#include "gui/control_binding.h"
+#include "gui/bound_widget.h"
 #include "services/controls/progress_bar.h"
 
 namespace qb::gui {
 
-class ProgressBarWidget : public QProgressBar {
+class ProgressBarWidget : public BoundWidget<QProgressBar, ProgressBar> {
  public:
   ProgressBarWidget(ProgressBar& control, QWidget* parent);
 
- private:
-  void applyChange(ControlChange change);
-
-  ProgressBar& control_;
-  ControlBinding binding_;
+ protected:
+  void applyChange(ControlChange change) override;
 };
 
 }  // namespace qb::gui

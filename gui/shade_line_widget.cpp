@@ -8,21 +8,23 @@
 namespace qb::gui {
 
 ShadeLineWidget::ShadeLineWidget(ShadeLine& control, QWidget* parent)
-    : QWidget(parent), control_(control), binding_(control, *this, [this](ControlChange change) {
-        if (change == ControlChange::Text || change == ControlChange::Appearance) update();
-      }) {
+    : BoundWidget(control, parent) {
   QFont heading = font();
   heading.setBold(true);
   heading.setPointSizeF(heading.pointSizeF() * 1.1);
   setFont(heading);
-  binding_.forwardInputFrom(*this, true);
-  binding_.applyAll();
+  binding().forwardInputFrom(*this, true);
+  binding().applyAll();
+}
+
+void ShadeLineWidget::applyChange(ControlChange change) {
+  if (change == ControlChange::Text || change == ControlChange::Appearance) update();
 }
 
 void ShadeLineWidget::paintEvent(QPaintEvent*) {
   QPainter painter(this);
-  const QColor start = toQColor(control_.StartColor(), palette());
-  const QColor end = toQColor(control_.EndColor(), palette());
+  const QColor start = toQColor(control().StartColor(), palette());
+  const QColor end = toQColor(control().EndColor(), palette());
   QLinearGradient gradient(rect().topLeft(), rect().topRight());
   gradient.setColorAt(0, start);
   gradient.setColorAt(1, end);
@@ -33,7 +35,7 @@ void ShadeLineWidget::paintEvent(QPaintEvent*) {
   // The caption reads on the dark end of the bar.
   painter.setPen(start.lightness() < 128 ? QColor(Qt::white) : QColor(Qt::black));
   painter.drawText(rect().adjusted(6, 0, -6, 0), Qt::AlignLeft | Qt::AlignVCenter,
-                   QString::fromStdString(control_.Caption()));
+                   QString::fromStdString(control().Caption()));
 }
 
 }  // namespace qb::gui

@@ -5,21 +5,18 @@
 
 #include <QWidget>
 
-#include "gui/control_binding.h"
+#include "gui/bound_widget.h"
 #include "services/controls/shade_line.h"
 
 namespace qb::gui {
 
-class ShadeLineWidget : public QWidget {
+class ShadeLineWidget : public BoundWidget<QWidget, ShadeLine> {
  public:
   ShadeLineWidget(ShadeLine& control, QWidget* parent);
 
  protected:
+  void applyChange(ControlChange change) override;
   void paintEvent(QPaintEvent* event) override;
-
- private:
-  ShadeLine& control_;
-  ControlBinding binding_;
 };
 
 }  // namespace qb::gui

@@ -7,17 +7,17 @@
 namespace qb::gui {
 
 SplitterBarWidget::SplitterBarWidget(PictureBox& bar, QWidget* parent)
-    : QWidget(parent), bar_(bar), binding_(bar, *this) {
+    : BoundWidget(bar, parent) {
   // The bar takes every mouse move, also without a button, as the platform
   // sends them.
   setMouseTracking(true);
-  binding_.forwardInputFrom(*this, true);
-  binding_.applyAll();
+  binding().forwardInputFrom(*this, true);
+  binding().applyAll();
 }
 
 void SplitterBarWidget::paintEvent(QPaintEvent*) {
   QPainter painter(this);
-  painter.fillRect(rect(), toQColor(bar_.BackColor(), palette()));
+  painter.fillRect(rect(), toQColor(control().BackColor(), palette()));
   // A grip of three dots in the middle of the bar, along its length.
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setPen(Qt::NoPen);
@@ -31,9 +31,9 @@ void SplitterBarWidget::paintEvent(QPaintEvent*) {
 }
 
 GhostBarWidget::GhostBarWidget(PictureBox& ghost, QWidget* parent)
-    : QWidget(parent), binding_(ghost, *this) {
+    : BoundWidget(ghost, parent) {
   setAttribute(Qt::WA_TransparentForMouseEvents);
-  binding_.applyAll();
+  binding().applyAll();
 }
 
 void GhostBarWidget::paintEvent(QPaintEvent*) {

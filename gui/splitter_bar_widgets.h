@@ -6,32 +6,25 @@
 
 #include <QWidget>
 
-#include "gui/control_binding.h"
+#include "gui/bound_widget.h"
 #include "services/controls/picture_box.h"
 
 namespace qb::gui {
 
-class SplitterBarWidget : public QWidget {
+class SplitterBarWidget : public BoundWidget<QWidget, PictureBox> {
  public:
   SplitterBarWidget(PictureBox& bar, QWidget* parent);
 
  protected:
   void paintEvent(QPaintEvent* event) override;
-
- private:
-  PictureBox& bar_;
-  ControlBinding binding_;
 };
 
-class GhostBarWidget : public QWidget {
+class GhostBarWidget : public BoundWidget<QWidget, PictureBox> {
  public:
   GhostBarWidget(PictureBox& ghost, QWidget* parent);
 
  protected:
   void paintEvent(QPaintEvent* event) override;
-
- private:
-  ControlBinding binding_;
 };
 
 }  // namespace qb::gui
