@@ -28,7 +28,9 @@ PressButtonWidget::PressButtonWidget(CommandButton& control, QWidget* parent)
     : BoundWidget(control, parent) {
   for (const ButtonIcon& entry : kButtonIcons) {
     if (entry.control == control.Name() && entry.index == control.Index()) {
-      setIcon(QIcon::fromTheme(entry.icon));
+      // A button of an icon alone shows it in the button's text colour.
+      const QIcon icon = QIcon::fromTheme(entry.icon);
+      setIcon(control.Caption().empty() ? monochromeIcon(icon, palette().color(QPalette::ButtonText)) : icon);
       setIconSize(QSize(16, 16));
     }
   }

@@ -109,6 +109,20 @@ QIcon drawnPageIcon() {
   return icon;
 }
 
+QIcon monochromeIcon(const QIcon& icon, const QColor& color) {
+  QIcon tinted;
+  for (int size : {16, 24, 32}) {
+    QPixmap pixmap = icon.pixmap(size);
+    if (pixmap.isNull()) continue;
+    QPainter painter(&pixmap);
+    painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
+    painter.fillRect(pixmap.rect(), color);
+    painter.end();
+    tinted.addPixmap(pixmap);
+  }
+  return tinted.isNull() ? icon : tinted;
+}
+
 QIcon themeIcon(const std::string& name) {
   static QHash<QString, QIcon> cache;
   const QString key = QString::fromStdString(name);

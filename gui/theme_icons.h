@@ -28,4 +28,9 @@ QIcon iconFor(const Picture& picture);
 // A plain page with a folded corner, drawn, for a file without an icon.
 QIcon drawnPageIcon();
 
+// The icon's shape in one colour, as the desktop draws symbolic icons on
+// buttons (the theme's own action icons are pale greys that read as
+// disabled). The disabled look is left to the style.
+QIcon monochromeIcon(const QIcon& icon, const QColor& color);
+
 }  // namespace qb::gui
