@@ -14,12 +14,13 @@ namespace {
 
 constexpr int32_t kRightAlign = 8;
 constexpr int16_t kBusyPointer = 11;
+constexpr qint64 kPumpSliceMs = 20;
 
 }  // namespace
 
 QtPlatform::QtPlatform(QWidget* window)
     : window_(window), runner_([](PopupMenu& menu, const QPoint& position) { return menu.menu().exec(position); }) {
-  installEventPump([] { QCoreApplication::processEvents(); });
+  installEventPump([this] { pumpEvents(); });
   pointerObserver_ = screen().addObserver([this](int16_t pointer) { showPointer(pointer); });
   installPopupMenuHandler([this](MenuItem& model, int32_t flags, std::optional<float> x, std::optional<float> y) {
     PopupMenu menu(model, window_);
@@ -35,6 +36,15 @@ QtPlatform::~QtPlatform() {
   screen().removeObserver(pointerObserver_);
   if (busy_) QApplication::restoreOverrideCursor();
   resetPlatform();
+}
+
+void QtPlatform::pumpEvents() {
+  // A long loop yields twice per row; events (input, repaints) are handled
+  // at most once a slice, so that thousands of rows don't cost a repaint
+  // each. Input still comes in within a slice.
+  if (sinceLastPump_.isValid() && sinceLastPump_.elapsed() < kPumpSliceMs) return;
+  QCoreApplication::processEvents();
+  sinceLastPump_.restart();
 }
 
 void QtPlatform::showPointer(int16_t pointer) {

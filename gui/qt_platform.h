@@ -1,13 +1,15 @@
 #pragma once
 // QtPlatform: the platform services of this thread realised with Qt, for as
 // long as the object lives: the event pump runs QCoreApplication's
-// processEvents; the screen's busy pointer (11) shows the wait cursor over
+// processEvents (at most once in 20 ms: a loop that pumps twice per row
+// would otherwise repaint for every row); the screen's busy pointer (11) shows the wait cursor over
 // the whole application and 0 takes it away; pop-up menus are QMenus built
 // from the menu model and run at the mouse, and the entry chosen runs its
 // click. Destroying it puts the platform back to its start state.
 
 #include <functional>
 
+#include <QElapsedTimer>
 #include <QPoint>
 
 #include "gui/popup_menu.h"
@@ -34,12 +36,14 @@ class QtPlatform {
   void setMenuRunner(MenuRunner runner) { runner_ = std::move(runner); }
 
  private:
+  void pumpEvents();
   void showPointer(int16_t pointer);
 
   QWidget* window_;
   MenuRunner runner_;
   int32_t pointerObserver_ = 0;
   bool busy_ = false;
+  QElapsedTimer sinceLastPump_;
 };
 
 }  // namespace qb::gui
