@@ -15,13 +15,6 @@ namespace {
 
 constexpr const char* kSelectDocument = "SELECT Documents.* FROM Documents WHERE DocumentID = ";
 
-// The icon of what the path names by its type alone: a folder, or the file's
-// extension.
-std::string typeIconName(const fileUtilitiesClass& files, const std::string& path) {
-  if (files.folderExists(path)) return kFolderIcon;
-  return iconNameForExtension(files.getFileExtension(path));
-}
-
 // The file's name without its extension, as DocName holds it.
 std::string nameWithoutExtension(const fileUtilitiesClass& files, const std::string& fileName) {
   return fileName.substr(0, fileName.size() - files.getFileExtension(fileName).size());
@@ -36,9 +29,13 @@ void docQuillboxDocumentClass::setIcons(const std::string& iconName) {
 
 void docQuillboxDocumentClass::readFileFacts() {
   fileUtilitiesClass files;
-  fileAccessState_ = files.accessState(documentPath_);
-  setIcons(fileAccessState_ == FileAccessState::reachable ? typeIconName(files, documentPath_)
-                                                          : kUnreachableIcon);
+  bool isFolder = false;
+  fileAccessState_ = files.accessState(documentPath_, &isFolder);
+  if (fileAccessState_ != FileAccessState::reachable) {
+    setIcons(kUnreachableIcon);
+  } else {
+    setIcons(isFolder ? kFolderIcon : iconNameForExtension(files.getFileExtension(documentPath_)));
+  }
 }
 
 void docQuillboxDocumentClass::readRecord(DatabaseReference& db, RecordsetHandle handle,

@@ -6,6 +6,7 @@
 #include <cmath>
 #include <cstdio>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "services/runtime/conversions.h"
@@ -33,9 +34,8 @@ std::string dayName(int weekday, bool full) {
 }
 
 std::string twoDigits(int value) {
-  char buffer[8];
-  std::snprintf(buffer, sizeof buffer, "%02d", value % 100 < 0 ? -(value % 100) : value % 100);
-  return buffer;
+  int last = value % 100 < 0 ? -(value % 100) : value % 100;
+  return {static_cast<char>('0' + last / 10), static_cast<char>('0' + last % 10)};
 }
 
 // ---- date patterns -------------------------------------------------------
@@ -64,20 +64,22 @@ bool startsWithText(const std::string& s, size_t at, const char* word) {
 
 std::vector<Token> tokenizeDate(const std::string& pattern) {
   std::vector<Token> tokens;
-  auto literal = [&](const std::string& text) {
+  tokens.reserve(pattern.size());
+  auto literal = [&](std::string_view text) {
     if (!tokens.empty() && tokens.back().kind == Tok::Literal) tokens.back().text += text;
-    else tokens.push_back({Tok::Literal, 0, text});
+    else tokens.push_back({Tok::Literal, 0, std::string(text)});
   };
+  const std::string_view whole(pattern);
   for (size_t i = 0; i < pattern.size();) {
     char c = pattern[i];
     char lower = static_cast<char>(c | 0x20);
     if (c == '"') {
       size_t end = pattern.find('"', i + 1);
       if (end == std::string::npos) end = pattern.size();
-      literal(pattern.substr(i + 1, end - i - 1));
+      literal(whole.substr(i + 1, end - i - 1));
       i = end + 1;
     } else if (c == '\\' && i + 1 < pattern.size()) {
-      literal(pattern.substr(i + 1, 1));
+      literal(whole.substr(i + 1, 1));
       i += 2;
     } else if (startsWithText(pattern, i, "am/pm")) {
       tokens.push_back({Tok::AmPm, 5, pattern.substr(i, 5)});
@@ -98,7 +100,7 @@ std::vector<Token> tokenizeDate(const std::string& pattern) {
       size_t length = 1;
       while (i + length < pattern.size() && (static_cast<unsigned char>(pattern[i + length]) & 0xC0) == 0x80)
         ++length;
-      literal(pattern.substr(i, length));
+      literal(whole.substr(i, length));
       i += length;
     }
   }
@@ -193,6 +195,7 @@ std::string formatDate(double serial, const std::string& pattern) {
     if (t.kind == Tok::AmPm) twelveHour = true;
   DateParts p = splitDate(serial);
   std::string out;
+  out.reserve(pattern.size() + 16);
   for (const Token& t : tokens) appendDateToken(t, serial, p, twelveHour, out);
   return out;
 }

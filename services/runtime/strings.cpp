@@ -254,9 +254,10 @@ std::string toRtfEscapes(const std::string& utf8) {
     }
     int byte = cp1252Byte(cp);
     if (byte >= 0) {
-      char hex[8];
-      std::snprintf(hex, sizeof hex, "\\'%02x", byte);
-      out += hex;
+      static constexpr char kDigits[] = "0123456789abcdef";
+      out += "\\'";
+      out += kDigits[(byte >> 4) & 0xF];
+      out += kDigits[byte & 0xF];
     } else if (cp >= 0x10000) {
       char32_t v = cp - 0x10000;
       appendUnicodeEscape(0xD800 + (v >> 10), out);

@@ -15,13 +15,6 @@ namespace qb::sqlite {
 
 namespace {
 
-std::string upperAscii(std::string text) {
-  for (char& c : text) {
-    if (c >= 'a' && c <= 'z') c = static_cast<char>(c - 'a' + 'A');
-  }
-  return text;
-}
-
 [[noreturn]] void storeError(const std::string& message) {
   throw RuntimeError(err::kStoreError, message);
 }
@@ -163,7 +156,7 @@ void Connection::rollbackWrite() {
 }
 
 int Connection::tableId(const std::string& name) {
-  auto [found, added] = tableIds_.try_emplace(upperAscii(name), static_cast<int>(versions_.size()));
+  auto [found, added] = tableIds_.try_emplace(name, static_cast<int>(versions_.size()));
   if (added) versions_.push_back(0);
   return found->second;
 }

@@ -13,6 +13,7 @@
 
 #include "services/store/sqlite_database.h"
 #include "services/store/sqlite_lru_cache.h"
+#include "services/store/sqlite_names.h"
 #include "services/store/sqlite_sql_text.h"
 #include "services/store/sqlite_statement.h"
 
@@ -84,7 +85,7 @@ class Connection {
   bool readOnly_ = false;
   LruCache<QueryShape> shapes_{256};
   LruCache<Statement> statements_{128};
-  std::unordered_map<std::string, int> tableIds_;  // by name in upper case
+  NameMap<int> tableIds_;  // by name in any case
   std::vector<uint64_t> versions_;
 };
 

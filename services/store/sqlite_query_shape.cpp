@@ -8,13 +8,6 @@ namespace qb::sqlite {
 
 namespace {
 
-std::string upperAscii(std::string_view text) {
-  std::string upper(text);
-  for (char& c : upper) {
-    if (c >= 'a' && c <= 'z') c = static_cast<char>(c - 'a' + 'A');
-  }
-  return upper;
-}
 
 const char* orEmpty(const char* text) { return text != nullptr ? text : ""; }
 
@@ -77,10 +70,9 @@ void describeColumns(Connection& connection, QueryShape& shape, sqlite3_stmt* st
         shape.tables.push_back(std::move(added));
       }
       ShapeTable& owner = shape.tables[index];
-      std::string upperOrigin = upperAscii(origin);
       int source = 0;
       while (source < static_cast<int>(owner.sourceColumns.size()) &&
-             upperAscii(owner.sourceColumns[source]) != upperOrigin) {
+             !NameEqual()(owner.sourceColumns[source], origin)) {
         ++source;
       }
       if (source == static_cast<int>(owner.sourceColumns.size())) {
@@ -90,7 +82,7 @@ void describeColumns(Connection& connection, QueryShape& shape, sqlite3_stmt* st
       column.table = index;
       column.source = source;
     }
-    shape.byName.try_emplace(upperAscii(column.name), i);
+    shape.byName.try_emplace(column.name, i);
     shape.columns.push_back(std::move(column));
   }
 }
@@ -98,7 +90,7 @@ void describeColumns(Connection& connection, QueryShape& shape, sqlite3_stmt* st
 }  // namespace
 
 int QueryShape::fieldIndex(std::string_view name) const {
-  auto found = byName.find(upperAscii(name));
+  auto found = byName.find(name);
   return found == byName.end() ? -1 : found->second;
 }
 
@@ -126,7 +118,7 @@ std::shared_ptr<QueryShape> QueryShape::prepare(Connection& connection, const st
       for (int i = 0; i < columnCount && !key.empty(); ++i) {
         const ShapeColumn& column = shape->columns[i];
         if (column.table >= 0 && &shape->tables[column.table] == &table &&
-            upperAscii(table.sourceColumns[column.source]) == upperAscii(key)) {
+            NameEqual()(table.sourceColumns[column.source], key)) {
           table.keyColumn = quoted(key);
           table.keyField = i;
           break;

@@ -13,9 +13,9 @@
 #include <memory>
 #include <string>
 #include <string_view>
-#include <unordered_map>
 #include <vector>
 
+#include "services/store/sqlite_names.h"
 #include "services/store/sqlite_statement.h"
 #include "services/store/sqlite_values.h"
 
@@ -48,7 +48,8 @@ struct QueryShape {
   int leading = 0;      // how many such columns stand in front of the result's own
   std::vector<ShapeColumn> columns;
   std::vector<ShapeTable> tables;
-  std::unordered_map<std::string, int> byName;  // upper-case name to the first column of that name
+  // Each name to the first column of that name, in any case.
+  NameMap<int> byName;
 
   // The column of that name (no table, any case); -1 when none.
   int fieldIndex(std::string_view name) const;

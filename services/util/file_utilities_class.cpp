@@ -86,10 +86,14 @@ bool fileUtilitiesClass::fileExists(const std::string& path) const {
 
 bool fileUtilitiesClass::folderExists(const std::string& path) const { return isDirectory(path); }
 
-FileAccessState fileUtilitiesClass::accessState(const std::string& path) const {
+FileAccessState fileUtilitiesClass::accessState(const std::string& path, bool* isFolder) const {
+  if (isFolder != nullptr) *isFolder = false;
   if (path.empty()) return FileAccessState::missingFolder;
   struct stat st {};
-  if (stat(path.c_str(), &st) == 0) return FileAccessState::reachable;
+  if (stat(path.c_str(), &st) == 0) {
+    if (isFolder != nullptr) *isFolder = S_ISDIR(st.st_mode);
+    return FileAccessState::reachable;
+  }
   if (errno == EACCES) return FileAccessState::accessDenied;
   std::string parent = getFolderFromPath(path);
   const char* folder = parent.empty() ? "." : parent.c_str();

@@ -45,8 +45,9 @@ class fileUtilitiesClass {
   bool fileExists(const std::string& path) const;
   // True for an existing folder.
   bool folderExists(const std::string& path) const;
-  // Why the path can or can't be reached.
-  FileAccessState accessState(const std::string& path) const;
+  // Why the path can or can't be reached; isFolder, when given, tells
+  // whether a reachable path is a folder (read with the same query).
+  FileAccessState accessState(const std::string& path, bool* isFolder = nullptr) const;
   // False when the file carries no write permission for anyone (the file's
   // read-only mark), or can't be reached. The test reads the file's mode, not
   // the caller's rights, so it tells the same for every user.

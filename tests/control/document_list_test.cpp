@@ -71,6 +71,31 @@ TEST_F(DocumentListTest, FillShowsEachLinkWithItsFileFactsSortedWithItsOwnIcons)
   EXPECT_TRUE(errors->failures.empty());
 }
 
+TEST_F(DocumentListTest, AnEmptyCategoryOrNoSelectionEmptiesTheList) {
+  start(quillbox);
+  show(quillbox, 2);
+  ListView& list = quillbox.lvDocuments();
+  db.exec("UPDATE Companies SET CompanyName = 'Acme Group' WHERE CompanyID = 1;");
+
+  show(quillbox, 4);  // "Empty": its header and the client's new name, no rows
+  EXPECT_EQ(list.ListItems().Count(), 0);
+  EXPECT_EQ(quillbox.headerGradient().Caption(), "  Empty");
+  EXPECT_EQ(quillbox.lblClientName().Caption(), "  Acme Group");
+  // The list lets go of the image lists and stays unbound until rows come.
+  EXPECT_EQ(list.Icons(), nullptr);
+  EXPECT_EQ(list.SmallIcons(), nullptr);
+  EXPECT_EQ(quillbox.iglListViewIcons().ListImages().Count(), 0);
+
+  show(quillbox, 3);
+  ASSERT_EQ(list.ListItems().Count(), 1);
+  quillbox.tvClientDocumentation().setSelectedItem(nullptr);
+  quillbox.setupDocumentsDisplay();  // no selection: cleared, the old header stays
+  EXPECT_EQ(list.ListItems().Count(), 0);
+  EXPECT_EQ(quillbox.headerGradient().Caption(), "  Letters");
+  EXPECT_EQ(screen().MousePointer(), 0);
+  EXPECT_TRUE(errors->failures.empty());
+}
+
 TEST_F(DocumentListTest, AFillReenteredFromTheEventPumpEndsConsistent) {
   start(quillbox);
   bool clicked = false;

@@ -107,6 +107,8 @@ TEST_F(CategoryObjects, LoadCategoryCountsProgressAndWalksDocumentsWithIcons) {
   link(12, 3, gone);
   link(13, 3, files.file("bad.txt"), "not a date");
   link(14, 4, files.file("elsewhere.txt"));
+  std::filesystem::create_directory(files.file("scans.d"));  // a link to a folder
+  link(15, 3, files.file("scans.d"));
 
   docQuillboxCategoryClass category;
   int32_t maximum = -1, lastStep = 0, steps = 0, ends = 0;
@@ -122,9 +124,9 @@ TEST_F(CategoryObjects, LoadCategoryCountsProgressAndWalksDocumentsWithIcons) {
   ASSERT_TRUE(result);
   EXPECT_EQ(category.categoryName(), "Taxes");
   EXPECT_EQ(category.parentCategoryNum(), 1);
-  EXPECT_EQ(maximum, 4);
-  EXPECT_EQ(steps, 4);
-  EXPECT_EQ(lastStep, 4);
+  EXPECT_EQ(maximum, 5);
+  EXPECT_EQ(steps, 5);
+  EXPECT_EQ(lastStep, 5);
   EXPECT_EQ(ends, 1);
   ASSERT_EQ(errors.size(), 1u);
   EXPECT_NE(errors[0].find("Taxes"), std::string::npos);
@@ -140,7 +142,8 @@ TEST_F(CategoryObjects, LoadCategoryCountsProgressAndWalksDocumentsWithIcons) {
   }
   EXPECT_EQ(walk, (std::vector<std::string>{"report.pdf application-pdf 32",
                                             "books.XLSX x-office-spreadsheet 32",
-                                            "notes.docx dialog-warning 32"}));
+                                            "notes.docx dialog-warning 32",
+                                            "scans.d folder 32"}));
   EXPECT_FALSE(more);
   EXPECT_EQ(category.currentDocument(), nullptr);
 
