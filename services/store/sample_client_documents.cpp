@@ -16,14 +16,14 @@ struct FileSpec {
   const char* displayName;
 };
 
-struct CategorySpec {
+struct CategoryPlan {
   const char* name;
   const char* folder;  // under the client's folder
   int32_t parent;      // index of the parent in the same list, -1 for the main category
   std::vector<FileSpec> files;
 };
 
-const std::vector<CategorySpec> kCompanyCategories = {
+const std::vector<CategoryPlan> kCompanyCategories = {
     {"Tax Returns", "Tax Returns", -1, {}},
     {"2024", "Tax Returns/2024", 0,
      {{"T2 Corporate Return 2024.pdf", "2024 T2 Return (filed)"},
@@ -42,7 +42,7 @@ const std::vector<CategorySpec> kCompanyCategories = {
       {"Meeting Notes.odt", "Meeting notes"}}},
 };
 
-const std::vector<CategorySpec> kContactCategories = {
+const std::vector<CategoryPlan> kContactCategories = {
     {"Personal Tax", "Personal Tax", -1,
      {{"T1 Return 2024.pdf", "2024 T1 Return"}}},
     {"2025", "Personal Tax/2025", 0,
@@ -83,21 +83,21 @@ class ClientShelf {
     shelf_.addLink(owner_, category, displayName, path);
   }
 
-  // The categories of specs under main, with a varying subset of their
+  // The planned categories under main, with a varying subset of their
   // files: the first file of each always, the others two times in three.
-  void fill(int32_t main, const std::vector<CategorySpec>& specs) {
+  void fill(int32_t main, const std::vector<CategoryPlan>& plans) {
     std::vector<int32_t> ids;
-    for (size_t n = 0; n < specs.size(); ++n) {
-      const CategorySpec& spec = specs[n];
-      int32_t parent = spec.parent < 0 ? main : ids[spec.parent];
-      fs::path folder = folder_ / spec.folder;
-      ids.push_back(category(parent, spec.name, folder.string(), kOrdinaryCategory,
+    for (size_t n = 0; n < plans.size(); ++n) {
+      const CategoryPlan& plan = plans[n];
+      int32_t parent = plan.parent < 0 ? main : ids[plan.parent];
+      fs::path folder = folder_ / plan.folder;
+      ids.push_back(category(parent, plan.name, folder.string(), kOrdinaryCategory,
                              static_cast<int32_t>(n) + 2));
-      for (size_t f = 0; f < spec.files.size(); ++f) {
+      for (size_t f = 0; f < plan.files.size(); ++f) {
         if (f > 0 && (variety_ + static_cast<int32_t>(n + f)) % 3 == 0) continue;
-        file(ids.back(), folder / spec.files[f].fileName, spec.files[f].displayName);
+        file(ids.back(), folder / plan.files[f].fileName, plan.files[f].displayName);
       }
-      categoryIDs_[spec.folder] = ids.back();
+      categoryIDs_[plan.folder] = ids.back();
     }
   }
 
