@@ -51,7 +51,6 @@ int64_t Splitter::ContainerHwnd() const { return Container() ? Container()->hWnd
 
 void Splitter::setEnabled(bool value) {
   picSplitter.setEnabled(value);
-  Control::setEnabled(value);
   PropertyChanged.raise("Enabled");
 }
 
@@ -229,7 +228,7 @@ void Splitter::ReadProperties(const PropertyBag& bag) {
   };
   userMode_ = ambientUserMode();
   Variant enabled = bag.ReadProperty("Enabled", true);
-  Control::setEnabled(enabled.isBoolean() ? enabled.rawBool() : true);
+  picSplitter.setEnabled(enabled.isBoolean() ? enabled.rawBool() : true);
   leftOrTop_ = bag.ReadObject("LeftOrTopControl");
   rightOrBottom_ = bag.ReadObject("RightOrBottomControl");
   setSplitterColor(static_cast<uint32_t>(

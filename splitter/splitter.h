@@ -50,7 +50,10 @@ class Splitter : public ContainerControl {
   PictureBox picSplitter{"picSplitter"};
   PictureBox picMover{"picMover"};
 
-  // Enabled is passed on to picSplitter (and kept as the control's own).
+  // Enabled is the bar's: it is passed through to picSplitter both ways. The
+  // splitter itself stays enabled, so the neighbours it holds stay usable
+  // while the bar is locked.
+  bool Enabled() const { return picSplitter.Enabled(); }
   void setEnabled(bool value) override;
 
   Control* LeftOrTopControl() const { return leftOrTop_; }

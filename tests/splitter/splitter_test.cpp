@@ -58,8 +58,10 @@ TEST_F(SplitterFixture, SettersKeepTheirRules) {
   EXPECT_EQ(s->SplitterMin(), 20);
   s->setSplitterColor(0x00FF0000);
   EXPECT_EQ(s->picSplitter.BackColor(), 0x00FF0000u);
-  s->setEnabled(false);
+  s->setEnabled(false);  // locks the bar only: the neighbours inside stay usable
   EXPECT_FALSE(s->picSplitter.Enabled());
+  EXPECT_FALSE(s->Enabled());
+  EXPECT_TRUE(static_cast<const Control&>(*s).Enabled());
   EXPECT_EQ(changed,
             (std::vector<std::string>{"SplitterPosition", "SplitterPosition", "SplitterMin",
                                       "SplitterMax", "SplitterMax", "SplitterMin", "SplitterColor",
@@ -165,6 +167,7 @@ TEST_F(SplitterFixture, PropertyBagRoundTrip) {
   s->setSplitterPosition(35);
   s->setOrientation(1);
   s->setSplitterWidth(90);
+  s->setEnabled(false);
   PropertyBag bag;
   s->WriteProperties(bag);
 
@@ -179,6 +182,7 @@ TEST_F(SplitterFixture, PropertyBagRoundTrip) {
   EXPECT_EQ(loaded.SplitterWidth(), 90);
   EXPECT_EQ(loaded.LeftOrTopControl(), &left);
   EXPECT_EQ(loaded.picSplitter.Height(), 90);
+  EXPECT_FALSE(loaded.picSplitter.Enabled());  // the stored Enabled reaches the bar
   EXPECT_EQ(changed, (std::vector<std::string>{"SplitterColor", "SplitterWidth", "SplitterMax",
                                                "SplitterMin", "SplitterPosition", "Orientation"}));
   loaded.Refresh();  // the orientation setter alone does not move the neighbours
