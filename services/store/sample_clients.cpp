@@ -169,6 +169,12 @@ std::string faxOf(const SampleCompany& c) {
   return phone.substr(0, 10) + "9" + phone.substr(11);
 }
 
+// A contact's own business fax: its company's, unless it inherits the
+// company's details or has no company.
+std::string businessFaxOf(const SampleContact& c) {
+  return c.company >= 0 && !c.inherit ? faxOf(sampleCompany(c.company)) : "";
+}
+
 std::string phoneOf(const SampleContact& c) {
   if (c.company < 0) return "(613) 555-0" + std::to_string(200 + c.id);
   return std::string(sampleCompany(c.company).phone) + " x" + std::to_string(200 + c.id);
@@ -191,7 +197,9 @@ void writeCompanies(SampleWriter& out, FirmSummary& summary) {
       const SampleContact& person = sampleContact(contacts.front());
       defaultName = sampleDisplayName(person);
       defaultPhone = person.inherit ? "" : phoneOf(person);
-      defaultFax = person.inherit ? "" : faxOf(c);
+      // The copy is the default contact's own fax: a branch's default works
+      // at the main company and has its fax.
+      defaultFax = businessFaxOf(person);
       defaultEmail = emailOf(person);
     }
     out.insert("Companies",
@@ -256,7 +264,7 @@ void writeContacts(SampleWriter& out, FirmSummary& summary) {
                 {"BusinessJobTitle", title},
                 {"BusinessPhone_Main", c.inherit ? "" : phoneOf(c)},
                 {"BusinessPhone_Cell", c.id % 3 == 0 ? "(613) 555-1" + std::to_string(100 + c.id) : ""},
-                {"BusinessPhone_Fax", ownAddress ? faxOf(*company) : ""},
+                {"BusinessPhone_Fax", businessFaxOf(c)},
                 {"BusinessEmail", emailOf(c)},
                 ownAddress ? Field("BusinessAddress", company->address) : Field("BusinessAddress", nullptr),
                 ownAddress ? Field("BusinessCity", company->city) : Field("BusinessCity", nullptr),

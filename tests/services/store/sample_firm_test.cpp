@@ -71,6 +71,17 @@ TEST(SampleFirm, HoldsThePromisedShapes) {
   EXPECT_EQ(column(db, "SELECT CompanyNum FROM ContactLinks WHERE CompanyNum IS NOT NULL "
                        "GROUP BY CompanyNum HAVING SUM(DefaultContact) <> 1;"),
             std::vector<std::string>{"11"});
+  // Each company's copy of its default contact's details is what refreshing
+  // it from the contact would write (branches included); without a default,
+  // the copy is empty.
+  EXPECT_EQ(column(db, "SELECT c.CompanyName FROM Companies c LEFT JOIN ContactLinks l ON "
+                       "l.CompanyNum = c.CompanyID AND l.DefaultContact = 1 LEFT JOIN Contacts k "
+                       "ON k.ContactID = l.ContactIDNum WHERE "
+                       "IFNULL(c.DefaultContactName, '') <> IFNULL(k.DisplayName, '') OR "
+                       "IFNULL(c.DefaultContactPhoneNumber, '') <> IFNULL(k.BusinessPhone_Main, '') "
+                       "OR IFNULL(c.DefaultContactFaxNumber, '') <> IFNULL(k.BusinessPhone_Fax, '') "
+                       "OR IFNULL(c.DefaultContactEmail, '') <> IFNULL(k.BusinessEmail, '');"),
+            std::vector<std::string>{});
   EXPECT_EQ(scalar(db, "SELECT DisplayName FROM Contacts WHERE ContactPersonalTaxDisplayType = 2 "
                        "AND SpouseLastName = LastName;"),
             "Pierre & Hélène Côté");
