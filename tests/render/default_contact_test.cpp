@@ -71,6 +71,28 @@ TEST_F(DefaultContact, ACompanyWithoutLinksHasNone) {
   EXPECT_EQ(companyNotes(2), "kept");
 }
 
+TEST_F(DefaultContact, CheckingWithoutRepairAndADefaultWithoutAContactRow) {
+  link(10, 1, "NULL");  // a Null flag is no default
+  link(11, 1);
+  EXPECT_EQ(checkForDefaultContact(1, false), -1);
+  EXPECT_EQ(storedDefault(1), "");
+  EXPECT_EQ(copied(1), "Old|Old|Old|Old");
+  EXPECT_EQ(companyNotes(1), "untouched");
+  EXPECT_FALSE(isContactDefaultContact(1, 10));
+  EXPECT_EQ(checkForDefaultContact(1, true), 10);
+  EXPECT_EQ(checkForDefaultContact(1, false), 10);
+
+  // A default link whose contact has no row: the read answers with it and
+  // ends, and the company's copy is cleared.
+  link(99, 2, "1");
+  link(11, 2);
+  EXPECT_EQ(getDefaultContactIDFromCompanyID(2), 99);
+  EXPECT_EQ(storedDefault(2), "99");
+  updateDefaultContactInfo(2);
+  EXPECT_EQ(copied(2), "|||");
+  EXPECT_TRUE(db.errors().failures.empty());
+}
+
 TEST_F(DefaultContact, SettingADefault) {
   link(10, 1, "1");
   link(11, 1);
