@@ -36,8 +36,9 @@ void setNoContactAsDefault(int32_t companyID, bool& skipSummary);
 void updateDefaultContactInfo(int32_t companyID);
 
 // The contact of the company's default link; -1 when the company has no
-// links. A company that has links and no valid default is repaired on the way:
-// its first link becomes the default, and that contact's id is returned.
+// links. A company that has links and none marked default is repaired on the
+// way: its first link becomes the default, and that contact's id is returned.
+// A default link whose contact has no row is answered as it stands.
 int32_t getDefaultContactIDFromCompanyID(int32_t companyID);
 
 // True when the contact's link to the company is the default one; false when
