@@ -53,6 +53,9 @@ TEST(AddressBlocks, LinesFollowWhatIsFilled) {
       {"no street and no city: no empty line",
        [](AddressRecord& a) { a.addressText = ""; a.city = ""; a.province = ""; }, true,
        "Acme Ltd\r\nJane Roe\r\nK2G 0Z1"},
+      {"no street and no city, a province: no empty line",
+       [](AddressRecord& a) { a.addressText = ""; a.city = ""; a.postalCode = ""; }, true,
+       "Acme Ltd\r\nJane Roe\r\nOntario"},
       {"names only keep their break",
        [](AddressRecord& a) { a.addressText = a.city = a.province = a.postalCode = ""; }, true,
        "Acme Ltd\r\nJane Roe\r\n"},
@@ -61,6 +64,10 @@ TEST(AddressBlocks, LinesFollowWhatIsFilled) {
       {"canada in any case", [](AddressRecord& a) { a.country = "canada"; }, false,
        "Acme Ltd\r\n12 Main St\r\nOttawa, Ontario  K2G 0Z1"},
       {"CA", [](AddressRecord& a) { a.country = "CA"; }, false,
+       "Acme Ltd\r\n12 Main St\r\nOttawa, Ontario  K2G 0Z1"},
+      {"Can", [](AddressRecord& a) { a.country = "Can"; }, false,
+       "Acme Ltd\r\n12 Main St\r\nOttawa, Ontario  K2G 0Z1"},
+      {"cda", [](AddressRecord& a) { a.country = "cda"; }, false,
        "Acme Ltd\r\n12 Main St\r\nOttawa, Ontario  K2G 0Z1"},
       {"a leading blank defeats the test", [](AddressRecord& a) { a.country = " Canada"; }, false,
        "Acme Ltd\r\n12 Main St\r\nOttawa, Ontario  K2G 0Z1\r\nCanada"},
@@ -90,6 +97,9 @@ TEST(AddressBlocks, RtfMarksFollowBreaksAndStoredValuesAreEscaped) {
   AddressRecord single;
   single.city = "Ottawa";
   EXPECT_EQ(address(single, true, true), "\r\n\\par Ottawa");
+  single.city = "";
+  single.postalCode = "K2G 0Z1";  // one line: no break, so no mark
+  EXPECT_EQ(address(single, true, true), "K2G 0Z1");
 
   EXPECT_EQ(convertToRTF("a\r\nb\r\nc"), "a\r\n\\par b\r\n\\par c");
   EXPECT_EQ(convertToRTF("Hélène {x}"), "H\\'e9l\\'e8ne {x}");

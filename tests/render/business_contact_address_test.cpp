@@ -68,6 +68,11 @@ TEST_F(BusinessContactAddress, AnInheritingContactShowsItsCompany) {
   EXPECT_EQ(businessAddress(11, -1, company, nameOnly), "Tom Poe");
   company = 1;
   EXPECT_EQ(businessAddress(99, -1, company, Flags{}), "");
+
+  // Every recordset opened is closed again; with company -1 none is opened
+  // for the company, so none is closed for it either.
+  EXPECT_EQ(db.store().openRecordsetCount(), 0);
+  EXPECT_TRUE(db.errors().failures.empty());
 }
 
 TEST_F(BusinessContactAddress, AnEmployeeInheritsTheFirmOnlyWithoutAValidFirmID) {

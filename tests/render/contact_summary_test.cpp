@@ -85,14 +85,50 @@ TEST_F(ContactSummary, AContactWithOnlyANameAndUnknownPeople) {
 }
 
 TEST_F(ContactSummary, AnEmployeeHasNoCompanyLines) {
+  // Links under the employee's id: the category shows, the company does not.
+  // With no settings row for the custom labels one is added, its labels blank.
   db.exec(
-      "INSERT INTO AccountantEmployeeInfo (ContactID, DisplayName, EmployeeType, Notes) VALUES "
-      "(50, 'Eve Clerk', 'Staff', 'Temp');");
-  std::string text = summary(-1, -1, false, 50);
-  EXPECT_EQ(text.find("Default Contact"), std::string::npos);
-  EXPECT_NE(text.find("\\b Employee Type:\\b0  Staff\\par\r\n\\par\r\n\\b Notes:\\b0\\par\r\nTemp\\par"),
-            std::string::npos);
-  EXPECT_EQ(db.scalar("SELECT BusinessNotes FROM AccountantEmployeeInfo WHERE ContactID = 50;"), text);
+      "INSERT INTO AccountantEmployeeInfo (ContactID, DisplayName, EmployeeType, Custom2, Notes) "
+      "VALUES (50, 'Eve Clerk', 'Staff', 'Night', 'Temp');"
+      "INSERT INTO ContactLinks (ContactIDNum, CategoryNum) VALUES (50, 3);"
+      "DELETE FROM CustomAddressFields;");
+  link(50, 1, "1");
+  std::string text = summary(-1, 1, false, 50);
+  EXPECT_EQ(text, kHeader +
+                      "\\b\\pard\\fi-1450\\li1450\\ri0 Name:\\b0  Eve Clerk\\par\r\n\\par\r\n"
+                      "\\b\\pard\\fi0\\li0\\ri0 Address:\\b0\\par\r\nEve Clerk\r\n\\par\\par\r\n"
+                      "\\par\r\n"
+                      "\\b Employee Type:\\b0  Staff\\par\r\n\\par\r\n"
+                      "\\b\\pard\\fi0\\li0\\ri0 Associated Category: \\b0 Clients\\par\r\n\\par\r\n"
+                      "\\b \\b0  Night\\par\r\n\\par\r\n"
+                      "\\b Notes:\\b0\\par\r\nTemp\\par\r\n\\par\r\n}");
+  EXPECT_EQ(db.scalar("SELECT BusinessNotes FROM AccountantEmployeeInfo WHERE ContactID = 50;"),
+            text);
+  EXPECT_EQ(db.scalar("SELECT COUNT(*) FROM CustomAddressFields;"), "1");
+  EXPECT_EQ(companyNotes(1), "untouched");
+  EXPECT_EQ(db.scalar("SELECT COUNT(*) FROM ContactsNotes;"), "2");
+  EXPECT_TRUE(db.errors().failures.empty());
+}
+
+TEST_F(ContactSummary, ACompanysCopyOfItsDefaultContact) {
+  link(20, 2, "1");
+  modFormatAddresses::saveCompanyContactRTF(2, 20);
+  EXPECT_NE(companyNotes(2).find("Default Contact:\\b0  Yes"), std::string::npos);
+  EXPECT_EQ(companyNotes(2), businessNotes(20));
+
+  modFormatAddresses::saveCompanyContactRTF(3, -1);
+  EXPECT_EQ(companyNotes(3), kHeader + "\\b No Default Contact Selected.\\b0  \\par\r\n}");
+  EXPECT_EQ(modFormatAddresses::saveNoDefaultComment(), companyNotes(3));
+
+  // A company without a notes row gets none; an unknown company changes nothing.
+  db.exec("INSERT INTO Companies (CompanyID, CompanyName) VALUES (4, 'Dial Ltd');");
+  db.exec("UPDATE ContactsNotes SET BusinessNotes = 'kept' WHERE ContactNum = 20;");
+  modFormatAddresses::saveCompanyContactRTF(4, 20);
+  modFormatAddresses::saveCompanyContactRTF(77, 20);
+  EXPECT_EQ(db.scalar("SELECT COUNT(*) FROM CompaniesNotes;"), "3");
+  EXPECT_EQ(businessNotes(20), "kept");
+  EXPECT_EQ(db.store().openRecordsetCount(), 0);
+  EXPECT_TRUE(db.errors().failures.empty());
 }
 
 TEST_F(ContactSummary, CopiesGoToEveryCompanyTheContactIsDefaultOf) {
