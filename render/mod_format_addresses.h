@@ -41,7 +41,8 @@ std::string createAddressWithContactInfo(AddressRecord& address, bool& includeCo
                                          bool& convertRTF);
 
 // The address of a firm employee (when employeeID is valid) or a contact,
-// trimmed, a line break at its end cut too (RTF paragraph marks stay). companyID is in and out: for a contact it becomes -1 when it is
+// trimmed, a line break at its end cut too (RTF paragraph marks stay).
+// companyID is in and out: for a contact it becomes -1 when it is
 // not a valid company; for an employee it becomes -1 when it IS a valid firm
 // id, and otherwise the firm's id, whose address an inheriting employee then
 // shows. An inheriting contact shows its company's address and, when it has
