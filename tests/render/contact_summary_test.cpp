@@ -71,17 +71,24 @@ TEST_F(ContactSummary, ARichContactWritesEverySection) {
 }
 
 TEST_F(ContactSummary, AContactWithOnlyANameAndUnknownPeople) {
-  EXPECT_EQ(summary(21, -1),
-            kHeader + "\\b\\pard\\fi-1450\\li1450\\ri0 Name:\\b0  Sam Poe\\par\r\n\\par\r\n"
-                      "\\b Default Contact:\\b0  No\\par\r\n\\par\r\n"
-                      "\\b\\pard\\fi0\\li0\\ri0 Address:\\b0\\par\r\nSam Poe\r\n\\par\\par\r\n"
-                      "\\par\r\n}");
+  const std::string nameOnly =
+      kHeader + "\\b\\pard\\fi-1450\\li1450\\ri0 Name:\\b0  Sam Poe\\par\r\n\\par\r\n"
+                "\\b Default Contact:\\b0  No\\par\r\n\\par\r\n"
+                "\\b\\pard\\fi0\\li0\\ri0 Address:\\b0\\par\r\nSam Poe\r\n\\par\\par\r\n"
+                "\\par\r\n";
+  EXPECT_EQ(summary(21, -1), nameOnly + "}");
   // No notes row: one is added, without a ContactNum.
   EXPECT_EQ(db.scalar("SELECT COUNT(*) FROM ContactsNotes WHERE ContactNum IS NULL AND "
                       "BusinessNotes LIKE '%Sam Poe%';"),
             "1");
   EXPECT_EQ(summary(99, 1), "");
   EXPECT_EQ(db.scalar("SELECT COUNT(*) FROM ContactsNotes;"), "3");
+
+  // A linked company without a name lists nothing, yet its row still leaves
+  // an empty line for the section.
+  db.exec("INSERT INTO Companies (CompanyID) VALUES (5);");
+  link(21, 5);
+  EXPECT_EQ(summary(21, -1), nameOnly + "\\par\r\n}");
 }
 
 TEST_F(ContactSummary, AnEmployeeHasNoCompanyLines) {
