@@ -19,9 +19,10 @@ namespace {
 
 // A database file of `rows` companies, made once per size and kept for the run.
 std::string companiesFile(int rows) {
-  std::string path = (std::filesystem::temp_directory_path() /
-                      ("qb-bench-companies-" + std::to_string(rows) + "-" + std::to_string(getpid()) + ".db"))
-                         .string();
+  std::string path =
+      (std::filesystem::temp_directory_path() /
+       ("qb-bench-companies-" + std::to_string(rows) + "-" + std::to_string(getpid()) + ".db"))
+          .string();
   if (std::filesystem::exists(path)) return path;
   qb::SqliteDatabase db;
   qb::SqliteDatabase::Options options;
@@ -30,8 +31,7 @@ std::string companiesFile(int rows) {
   db.executeScript(
       "CREATE TABLE Companies (CompanyID INTEGER PRIMARY KEY, CompanyName TEXT, City TEXT);"
       "WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < " +
-      std::to_string(rows) +
-      ") INSERT INTO Companies SELECT i, 'Company ' || i, 'Ottawa' FROM n;");
+      std::to_string(rows) + ") INSERT INTO Companies SELECT i, 'Company ' || i, 'Ottawa' FROM n;");
   std::atexit([] {
     for (auto& entry : std::filesystem::directory_iterator(std::filesystem::temp_directory_path()))
       if (entry.path().filename().string().find("qb-bench-companies-") == 0 &&
@@ -63,9 +63,9 @@ void BM_RawSqlitePointLookup(benchmark::State& state) {
   sqlite3* db = nullptr;
   sqlite3_open(companiesFile(10000).c_str(), &db);
   sqlite3_stmt* statement = nullptr;
-  sqlite3_prepare_v2(db,
-                     "SELECT Companies.CompanyID, Companies.CompanyName FROM Companies WHERE CompanyID=?;",
-                     -1, &statement, nullptr);
+  sqlite3_prepare_v2(
+      db, "SELECT Companies.CompanyID, Companies.CompanyName FROM Companies WHERE CompanyID=?;", -1,
+      &statement, nullptr);
   std::mt19937 random(7);
   std::string name;
   for (auto _ : state) {

@@ -34,8 +34,9 @@ void nvDocumentQuillbox::populateClientDocumentCategories() {
 }
 
 void nvDocumentQuillbox::DocQuillboxClientCategoriesClass_setupCategoryDocumentsDisplay() {
-  Procedure proc("Orvanta.exe-nvDocumentQuillbox-"
-                 "DocQuillboxClientCategoriesClass_setupCategoryDocumentsDisplay");
+  Procedure proc(
+      "Orvanta.exe-nvDocumentQuillbox-"
+      "DocQuillboxClientCategoriesClass_setupCategoryDocumentsDisplay");
 }
 
 void nvDocumentQuillbox::showRightClickMenu(Procedure& proc, bool hit, MenuItem& whenEmpty,

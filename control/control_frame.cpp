@@ -373,10 +373,14 @@ ShadeLine& nvDocumentQuillbox::headerGradient(int16_t index) {
 
 PictureBox& nvDocumentQuillbox::picFrame(int16_t index) {
   switch (index) {
-    case 13: return picFrame13_;
-    case 14: return picFrame14_;
-    case 15: return picFrame15_;
-    default: noSuchElement();
+    case 13:
+      return picFrame13_;
+    case 14:
+      return picFrame14_;
+    case 15:
+      return picFrame15_;
+    default:
+      noSuchElement();
   }
 }
 

@@ -14,12 +14,23 @@ void nvDocumentQuillbox::cmdClientNav_Click(int16_t index) {
   proc.step([&] {
     if (!objectOf(moduleState().databaseReference).isConnected()) return;
     switch (index) {
-      case 0: moveFirst.raise(); break;
-      case 1: movePrevious.raise(); break;
-      case 2: moveNext.raise(); break;
-      case 3: moveLast.raise(); break;
-      case 4: findClient.raise(); break;
-      default: break;
+      case 0:
+        moveFirst.raise();
+        break;
+      case 1:
+        movePrevious.raise();
+        break;
+      case 2:
+        moveNext.raise();
+        break;
+      case 3:
+        moveLast.raise();
+        break;
+      case 4:
+        findClient.raise();
+        break;
+      default:
+        break;
     }
   });
 }

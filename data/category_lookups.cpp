@@ -63,15 +63,16 @@ int32_t clsClientAddrBkCatTxt::getParentCategoryIDFromCategoryNum(int32_t catego
   int32_t result = -1;
   QueryShape query(proc, [&] { result = -1; });
   if (!query.connected()) return result;
-  query.readFirstRow("SELECT Categories.CategoryID, Categories.CategoryNum FROM Categories WHERE "
-                     "CategoryID = " +
-                         std::to_string(categoryID) + ";",
-                     [&] {
-                       int32_t categoryNum = query.idOrDefault("CategoryNum", -1);
-                       if (categoryNum < 0) return;
-                       result = categoryNum;
-                       linkList_.add(kCategory, categoryNum);
-                     });
+  query.readFirstRow(
+      "SELECT Categories.CategoryID, Categories.CategoryNum FROM Categories WHERE "
+      "CategoryID = " +
+          std::to_string(categoryID) + ";",
+      [&] {
+        int32_t categoryNum = query.idOrDefault("CategoryNum", -1);
+        if (categoryNum < 0) return;
+        result = categoryNum;
+        linkList_.add(kCategory, categoryNum);
+      });
   return result;
 }
 

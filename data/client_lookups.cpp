@@ -22,8 +22,7 @@ enum class Read {
 // One procedure with the query shape around one first-row read.
 template <typename Result>
 Result firstRowLookUp(const char* procedure, const std::string& sql, Result fallback,
-                      const std::function<Result(QueryShape&)>& read,
-                      bool testConnection = true) {
+                      const std::function<Result(QueryShape&)>& read, bool testConnection = true) {
   Procedure proc(traceName(procedure));
   Result result = fallback;
   QueryShape query(proc, [&] { result = fallback; });
@@ -41,9 +40,8 @@ int32_t idLookUp(const char* procedure, const char* sqlText, int32_t id, const c
 }
 
 std::string textLookUp(const char* procedure, const std::string& sql, const char* field) {
-  return firstRowLookUp<std::string>(procedure, sql, "", [&](QueryShape& query) {
-    return toText(query.field(field));
-  });
+  return firstRowLookUp<std::string>(procedure, sql, "",
+                                     [&](QueryShape& query) { return toText(query.field(field)); });
 }
 
 std::string textLookUp(const char* procedure, const char* sqlText, int32_t id, const char* field) {
@@ -67,9 +65,10 @@ int32_t getCompanyIDFromClientDataID(int32_t clientDataID) {
 }
 
 std::string getDisplayNameFromContactID(int32_t contactID) {
-  return textLookUp("getDisplayNameFromContactID",
-                    "SELECT Contacts.ContactID, Contacts.DisplayName FROM Contacts WHERE ContactID=",
-                    contactID, "DisplayName");
+  return textLookUp(
+      "getDisplayNameFromContactID",
+      "SELECT Contacts.ContactID, Contacts.DisplayName FROM Contacts WHERE ContactID=", contactID,
+      "DisplayName");
 }
 
 std::string getCompanyNameFromCompanyID(int32_t companyID) {
@@ -139,10 +138,11 @@ int32_t getTaskIDFromScheduleIDNum(int32_t scheduleID) {
       [&] { result = CLng(query.field("TaskID")); });
   // A finished task still answers, by the id it had before it was archived.
   if (!found) {
-    query.readFirstRow("SELECT archiveTasks.oldTaskID, archiveTasks.ScheduleIDNum FROM "
-                       "archiveTasks WHERE ScheduleIDNum=" +
-                           id + ";",
-                       [&] { result = CLng(query.field("oldTaskID")); });
+    query.readFirstRow(
+        "SELECT archiveTasks.oldTaskID, archiveTasks.ScheduleIDNum FROM "
+        "archiveTasks WHERE ScheduleIDNum=" +
+            id + ";",
+        [&] { result = CLng(query.field("oldTaskID")); });
   }
   return result;
 }

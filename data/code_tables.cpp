@@ -24,8 +24,8 @@ const char* textFor(std::span<const CodeText> table, int32_t number, const char*
 }
 
 // One traced procedure per table.
-std::string codeText(const char* procedure, std::span<const CodeText> table,
-                     const char* fallback, int32_t number) {
+std::string codeText(const char* procedure, std::span<const CodeText> table, const char* fallback,
+                     int32_t number) {
   Procedure proc(traceName(procedure));
   std::string result;
   proc.step([&] { result = textFor(table, number, fallback); });
@@ -33,7 +33,7 @@ std::string codeText(const char* procedure, std::span<const CodeText> table,
 }
 
 constexpr CodeText kCompanyTypes[] = {
-    {1, "Corporation"}, {2, "Sole Proprietorship"}, {3, nullptr},  {4, "Non Profit"},
+    {1, "Corporation"}, {2, "Sole Proprietorship"}, {3, nullptr},         {4, "Non Profit"},
     {5, "Trust"},       {6, "Joint Venture"},       {7, "S Corporation"}, {8, "LLP"},
     {9, "LLC"},         {10, "Fiduciary"},
 };

@@ -45,8 +45,11 @@ std::string fillPattern(const std::string& pattern, const NameParts& parts) {
       continue;
     }
     std::string key = pattern.substr(i + 1, end - i - 1);
-    out += key == "F" ? parts.F : key == "L" ? parts.L : key == "D" ? parts.D
-         : key == "SF" ? parts.SF : parts.SL;
+    out += key == "F"    ? parts.F
+           : key == "L"  ? parts.L
+           : key == "D"  ? parts.D
+           : key == "SF" ? parts.SF
+                         : parts.SL;
     i = end;
   }
   return out;
@@ -124,8 +127,8 @@ std::string getContactNameDisplayed(int32_t contactID, int32_t relatedContactID,
   Procedure proc(traceName("getContactNameDisplayed"));
   std::string result;
   proc.step([&] {
-    result = getContactNameDisplayedByType(displayType(), contactID, relatedContactID,
-                                           showRelationship);
+    result =
+        getContactNameDisplayedByType(displayType(), contactID, relatedContactID, showRelationship);
   });
   return result;
 }

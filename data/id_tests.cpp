@@ -31,19 +31,19 @@ bool validID(const char* procedure, const char* sqlText, const std::string& id) 
 }  // namespace
 
 bool validCompanyID(const std::string& companyID) {
-  return validID("validCompanyID", "SELECT Companies.CompanyID FROM Companies WHERE CompanyID = ",
-                 companyID);
+  return validID("validCompanyID",
+                 "SELECT Companies.CompanyID FROM Companies WHERE CompanyID = ", companyID);
 }
 
 bool validContactID(const std::string& contactID) {
-  return validID("validContactID", "SELECT Contacts.ContactID FROM Contacts WHERE ContactID = ",
-                 contactID);
+  return validID("validContactID",
+                 "SELECT Contacts.ContactID FROM Contacts WHERE ContactID = ", contactID);
 }
 
 bool validFirmID(const std::string& firmID) {
-  return validID("validFirmID",
-                 "SELECT AccountantFirmInfo.CompanyID FROM AccountantFirmInfo WHERE CompanyID = ",
-                 firmID);
+  return validID(
+      "validFirmID",
+      "SELECT AccountantFirmInfo.CompanyID FROM AccountantFirmInfo WHERE CompanyID = ", firmID);
 }
 
 bool validEmployeeID(const std::string& employeeID) {

@@ -73,8 +73,9 @@ std::string getMainBusinessSQLString(bool showOnly, int32_t statusFilter, int32_
     std::string where = kWhereClauses[showOnly ? 1 : 0][statusFilter - 1];
     std::string narrowing;
     if (clientDataID >= 0) {
-      narrowing = (where.empty() ? "WHERE ClientData.ClientDataID=" : "AND ClientData.ClientDataID=") +
-                  std::to_string(clientDataID) + " ";
+      narrowing =
+          (where.empty() ? "WHERE ClientData.ClientDataID=" : "AND ClientData.ClientDataID=") +
+          std::to_string(clientDataID) + " ";
     }
     result = std::string(tables.columns) + tables.join + where + narrowing + closing;
   });

@@ -18,9 +18,9 @@ class BoundWidget : public QtWidget {
 
  protected:
   BoundWidget(Model& control, QWidget* parent)
-      : QtWidget(parent), control_(control), binding_(control, *this, [this](ControlChange change) {
-          applyChange(change);
-        }) {}
+      : QtWidget(parent),
+        control_(control),
+        binding_(control, *this, [this](ControlChange change) { applyChange(change); }) {}
 
   // Called after the binding applied its part of a change.
   virtual void applyChange(ControlChange) {}

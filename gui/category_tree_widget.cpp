@@ -2,8 +2,8 @@
 
 #include <QHeaderView>
 
-#include "gui/theme_icons.h"
 #include "gui/sync_guard.h"
+#include "gui/theme_icons.h"
 #include "gui/twips.h"
 
 namespace qb::gui {
@@ -21,8 +21,10 @@ CategoryTreeWidget::CategoryTreeWidget(TreeView& control, QWidget* parent)
   forwardTo(&binding().input(), false);
   connect(this, &QTreeWidget::currentItemChanged, this,
           [this](QTreeWidgetItem* current) { userChangedCurrent(current); });
-  connect(this, &QTreeWidget::itemExpanded, this, [this](QTreeWidgetItem* item) { userExpanded(item, true); });
-  connect(this, &QTreeWidget::itemCollapsed, this, [this](QTreeWidgetItem* item) { userExpanded(item, false); });
+  connect(this, &QTreeWidget::itemExpanded, this,
+          [this](QTreeWidgetItem* item) { userExpanded(item, true); });
+  connect(this, &QTreeWidget::itemCollapsed, this,
+          [this](QTreeWidgetItem* item) { userExpanded(item, false); });
   this->control().setHitTestProvider([this](float x, float y) -> Node* {
     const QPoint point = viewport()->mapFrom(this, QPoint(toPixels(x), toPixels(y)));
     return nodeOf(itemAt(point));
@@ -38,15 +40,24 @@ CategoryTreeWidget::~CategoryTreeWidget() {
 
 void CategoryTreeWidget::applyChange(ControlChange change) {
   switch (change) {
-    case ControlChange::Items: rebuild(); break;
-    case ControlChange::Text: applyTexts(); break;
-    case ControlChange::Images: applyIcons(); break;
-    case ControlChange::View: applyExpansion(); break;
+    case ControlChange::Items:
+      rebuild();
+      break;
+    case ControlChange::Text:
+      applyTexts();
+      break;
+    case ControlChange::Images:
+      applyIcons();
+      break;
+    case ControlChange::View:
+      applyExpansion();
+      break;
     case ControlChange::Selection:
       applySelection();
       applyIcons();  // a selected node may show its own picture
       break;
-    default: break;
+    default:
+      break;
   }
 }
 
@@ -85,7 +96,8 @@ void CategoryTreeWidget::applyIcons() {
 void CategoryTreeWidget::applyExpansion() {
   quietly(syncing_, [this] {
     for (auto it = items_.constBegin(); it != items_.constEnd(); ++it) {
-      if (it.value()->isExpanded() != it.key()->Expanded()) it.value()->setExpanded(it.key()->Expanded());
+      if (it.value()->isExpanded() != it.key()->Expanded())
+        it.value()->setExpanded(it.key()->Expanded());
     }
   });
 }

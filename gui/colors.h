@@ -3,10 +3,9 @@
 // or a system colour when the high bit is set (0x8000000F the button face),
 // which takes the matching colour of the widget's palette.
 
-#include <cstdint>
-
 #include <QColor>
 #include <QPalette>
+#include <cstdint>
 
 namespace qb::gui {
 

@@ -28,9 +28,11 @@ void ContainerWidget::paintEvent(QPaintEvent*) {
     frame.lineWidth = 1;
     style()->drawPrimitive(QStyle::PE_Frame, &frame, &painter, this);
   }
-  if (auto* picture = dynamic_cast<PictureBox*>(&control()); picture && !picture->Picture().isEmpty()) {
+  if (auto* picture = dynamic_cast<PictureBox*>(&control());
+      picture && !picture->Picture().isEmpty()) {
     const int size = picture->Picture().size > 0 ? picture->Picture().size : 32;
-    iconFor(picture->Picture()).paint(&painter, QRect(0, 0, size, size), Qt::AlignLeft | Qt::AlignTop);
+    iconFor(picture->Picture())
+        .paint(&painter, QRect(0, 0, size, size), Qt::AlignLeft | Qt::AlignTop);
   }
   if (dynamic_cast<Frame*>(&control()) != nullptr && !control().Caption().empty()) {
     painter.setPen(palette().color(QPalette::WindowText));

@@ -1,11 +1,10 @@
 #include "gui/control_binding.h"
 
-#include <algorithm>
-
 #include <QEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QWidget>
+#include <algorithm>
 
 #include "gui/twips.h"
 #include "services/controls/container_control.h"
@@ -22,19 +21,32 @@ float borderInset(const Control& control) {
 
 Qt::CursorShape cursorShape(int16_t pointer) {
   switch (pointer) {
-    case 1: return Qt::ArrowCursor;
-    case 2: return Qt::CrossCursor;
-    case 3: return Qt::IBeamCursor;
-    case 5: return Qt::SizeAllCursor;
-    case 6: return Qt::SizeBDiagCursor;
-    case 7: return Qt::SizeVerCursor;
-    case 8: return Qt::SizeFDiagCursor;
-    case 9: return Qt::SizeHorCursor;
-    case 11: return Qt::WaitCursor;
-    case 12: return Qt::ForbiddenCursor;
-    case 13: return Qt::BusyCursor;
-    case 15: return Qt::SizeAllCursor;
-    default: return Qt::ArrowCursor;
+    case 1:
+      return Qt::ArrowCursor;
+    case 2:
+      return Qt::CrossCursor;
+    case 3:
+      return Qt::IBeamCursor;
+    case 5:
+      return Qt::SizeAllCursor;
+    case 6:
+      return Qt::SizeBDiagCursor;
+    case 7:
+      return Qt::SizeVerCursor;
+    case 8:
+      return Qt::SizeFDiagCursor;
+    case 9:
+      return Qt::SizeHorCursor;
+    case 11:
+      return Qt::WaitCursor;
+    case 12:
+      return Qt::ForbiddenCursor;
+    case 13:
+      return Qt::BusyCursor;
+    case 15:
+      return Qt::SizeAllCursor;
+    default:
+      return Qt::ArrowCursor;
   }
 }
 
@@ -43,38 +55,53 @@ Qt::CursorShape cursorShape(int16_t pointer) {
 ControlBinding::ControlBinding(Control& control, QWidget& widget, ChangeHandler onChange)
     : control_(control), widget_(widget), input_(control, widget), onChange_(std::move(onChange)) {
   widget_.setObjectName(QString::fromStdString(
-      control.Index() >= 0 ? control.Name() + "(" + std::to_string(control.Index()) + ")" : control.Name()));
+      control.Index() >= 0 ? control.Name() + "(" + std::to_string(control.Index()) + ")"
+                           : control.Name()));
   zOrderSeen_ = control.zOrderCount();
-  observerId_ = control_.addObserver([this](const Control&, ControlChange change) { changed(change); });
+  observerId_ =
+      control_.addObserver([this](const Control&, ControlChange change) { changed(change); });
 }
 
 ControlBinding::~ControlBinding() { control_.removeObserver(observerId_); }
 
 void ControlBinding::applyAll() {
   for (ControlChange change :
-       {ControlChange::Geometry, ControlChange::Visibility, ControlChange::Enabled, ControlChange::Text,
-        ControlChange::Items, ControlChange::Selection, ControlChange::Images, ControlChange::View,
-        ControlChange::Value, ControlChange::Appearance}) {
+       {ControlChange::Geometry, ControlChange::Visibility, ControlChange::Enabled,
+        ControlChange::Text, ControlChange::Items, ControlChange::Selection, ControlChange::Images,
+        ControlChange::View, ControlChange::Value, ControlChange::Appearance}) {
     changed(change);
   }
 }
 
 void ControlBinding::changed(ControlChange change) {
   switch (change) {
-    case ControlChange::Geometry: applyGeometry(); break;
-    case ControlChange::Visibility: widget_.setVisible(control_.Visible()); break;
-    case ControlChange::Enabled: widget_.setEnabled(control_.Enabled()); break;
-    case ControlChange::Text: widget_.setToolTip(QString::fromStdString(control_.ToolTipText())); break;
+    case ControlChange::Geometry:
+      applyGeometry();
+      break;
+    case ControlChange::Visibility:
+      widget_.setVisible(control_.Visible());
+      break;
+    case ControlChange::Enabled:
+      widget_.setEnabled(control_.Enabled());
+      break;
+    case ControlChange::Text:
+      widget_.setToolTip(QString::fromStdString(control_.ToolTipText()));
+      break;
     case ControlChange::Appearance:
       applyPointer();
       widget_.update();
       break;
-    case ControlChange::ZOrder: applyZOrder(); break;
+    case ControlChange::ZOrder:
+      applyZOrder();
+      break;
     case ControlChange::Focus:
       if (!widget_.hasFocus()) widget_.setFocus(Qt::OtherFocusReason);
       break;
-    case ControlChange::Repaint: widget_.update(); break;
-    default: break;
+    case ControlChange::Repaint:
+      widget_.update();
+      break;
+    default:
+      break;
   }
   if (onChange_) onChange_(change);
 }
@@ -130,12 +157,22 @@ bool ControlBinding::eventFilter(QObject* watched, QEvent* event) {
       pressed_ = false;
       break;
     }
-    case QEvent::MouseButtonDblClick: input_.doubleClick(); break;
-    case QEvent::MouseMove: input_.mouseMove(*source, *static_cast<QMouseEvent*>(event)); break;
-    case QEvent::KeyPress: return !input_.keyDown(*static_cast<QKeyEvent*>(event));
-    case QEvent::KeyRelease: input_.keyUp(*static_cast<QKeyEvent*>(event)); break;
-    case QEvent::FocusIn: input_.focusIn(); break;
-    default: break;
+    case QEvent::MouseButtonDblClick:
+      input_.doubleClick();
+      break;
+    case QEvent::MouseMove:
+      input_.mouseMove(*source, *static_cast<QMouseEvent*>(event));
+      break;
+    case QEvent::KeyPress:
+      return !input_.keyDown(*static_cast<QKeyEvent*>(event));
+    case QEvent::KeyRelease:
+      input_.keyUp(*static_cast<QKeyEvent*>(event));
+      break;
+    case QEvent::FocusIn:
+      input_.focusIn();
+      break;
+    default:
+      break;
   }
   return false;
 }

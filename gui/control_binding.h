@@ -9,9 +9,8 @@
 // The binding observes the model for as long as it lives, so a widget must be
 // destroyed before its model.
 
-#include <functional>
-
 #include <QObject>
+#include <functional>
 
 #include "gui/input_forwarder.h"
 #include "services/controls/control.h"

@@ -18,7 +18,8 @@ namespace {
 // The widget of one control, without its children.
 QWidget* createWidget(Control& control, QWidget* parent) {
   if (auto* splitter = dynamic_cast<Splitter*>(control.Container())) {
-    if (&control == &splitter->picSplitter) return new SplitterBarWidget(splitter->picSplitter, parent);
+    if (&control == &splitter->picSplitter)
+      return new SplitterBarWidget(splitter->picSplitter, parent);
     if (&control == &splitter->picMover) return new GhostBarWidget(splitter->picMover, parent);
   }
   if (dynamic_cast<ImageList*>(&control)) return nullptr;
@@ -26,9 +27,11 @@ QWidget* createWidget(Control& control, QWidget* parent) {
   if (auto* list = dynamic_cast<ListView*>(&control)) return new DocumentListWidget(*list, parent);
   if (auto* strip = dynamic_cast<ShadeLine*>(&control)) return new ShadeLineWidget(*strip, parent);
   if (auto* label = dynamic_cast<Label*>(&control)) return new LabelWidget(*label, parent);
-  if (auto* button = dynamic_cast<CommandButton*>(&control)) return new PressButtonWidget(*button, parent);
+  if (auto* button = dynamic_cast<CommandButton*>(&control))
+    return new PressButtonWidget(*button, parent);
   if (auto* bar = dynamic_cast<ProgressBar*>(&control)) return new ProgressBarWidget(*bar, parent);
-  if (auto* container = dynamic_cast<ContainerControl*>(&control)) return new ContainerWidget(*container, parent);
+  if (auto* container = dynamic_cast<ContainerControl*>(&control))
+    return new ContainerWidget(*container, parent);
   return nullptr;
 }
 

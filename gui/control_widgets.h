@@ -19,6 +19,7 @@ using ControlWidgetMap = QHash<const Control*, QWidget*>;
 // the widgets of its children in their order (later children on top).
 // Records each widget in widgets when given. Controls that show nothing of
 // their own (image lists) get no widget: the result is nullptr.
-QWidget* createControlWidgets(Control& control, QWidget* parent, ControlWidgetMap* widgets = nullptr);
+QWidget* createControlWidgets(Control& control, QWidget* parent,
+                              ControlWidgetMap* widgets = nullptr);
 
 }  // namespace qb::gui

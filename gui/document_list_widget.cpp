@@ -57,7 +57,8 @@ DocumentListWidget::DocumentListWidget(ListView& control, QWidget* parent)
           [this](int section, int, int newSize) { userResizedColumn(section, newSize); });
   connect(header, &QHeaderView::sectionMoved, this,
           [this](int section, int, int newVisual) { userMovedColumn(section, newVisual); });
-  connect(header, &QHeaderView::sectionClicked, this, [this](int section) { userClickedColumn(section); });
+  connect(header, &QHeaderView::sectionClicked, this,
+          [this](int section) { userClickedColumn(section); });
   // A click on a row raises ItemClick, then Click, after the view selected it.
   for (QAbstractItemView* view : {static_cast<QAbstractItemView*>(&listView_),
                                   static_cast<QAbstractItemView*>(&detailsView_)}) {
@@ -78,9 +79,10 @@ DocumentListWidget::DocumentListWidget(ListView& control, QWidget* parent)
 DocumentListWidget::~DocumentListWidget() {
   control().setHitTestProvider({});
   // The views' own teardown must not reach the handlers of a half-gone widget.
-  for (QObject* sender : {static_cast<QObject*>(listView_.selectionModel()),
-                          static_cast<QObject*>(detailsView_.header()), static_cast<QObject*>(&listView_),
-                          static_cast<QObject*>(&detailsView_)}) {
+  for (QObject* sender :
+       {static_cast<QObject*>(listView_.selectionModel()),
+        static_cast<QObject*>(detailsView_.header()), static_cast<QObject*>(&listView_),
+        static_cast<QObject*>(&detailsView_)}) {
     disconnect(sender, nullptr, this, nullptr);
   }
 }
@@ -97,15 +99,24 @@ void DocumentListWidget::applyChange(ControlChange change) {
       applyColumns();
       applySelection();
       break;
-    case ControlChange::Text: model_.textsChanged(); break;
-    case ControlChange::Images: model_.picturesChanged(); break;
-    case ControlChange::Selection: applySelection(); break;
-    case ControlChange::View: applyView(); break;
+    case ControlChange::Text:
+      model_.textsChanged();
+      break;
+    case ControlChange::Images:
+      model_.picturesChanged();
+      break;
+    case ControlChange::Selection:
+      applySelection();
+      break;
+    case ControlChange::View:
+      applyView();
+      break;
     case ControlChange::Repaint:
       listView_.viewport()->update();
       detailsView_.viewport()->update();
       break;
-    default: break;
+    default:
+      break;
   }
 }
 
@@ -134,7 +145,8 @@ void DocumentListWidget::applyListMode() {
   listView_.setWordWrap(view == lvwIcon);
   if (view == lvwIcon) {
     // Arranged to the left the icons fill columns; otherwise rows.
-    listView_.setFlow(control().Arrange() == lvwAutoLeft ? QListView::TopToBottom : QListView::LeftToRight);
+    listView_.setFlow(control().Arrange() == lvwAutoLeft ? QListView::TopToBottom
+                                                         : QListView::LeftToRight);
     listView_.setIconSize(QSize(32, 32));
     listView_.setGridSize(QSize(104, 72));
     listView_.setSpacing(0);
@@ -147,7 +159,8 @@ void DocumentListWidget::applyListMode() {
   const bool multi = control().MultiSelect();
   for (QAbstractItemView* v : {static_cast<QAbstractItemView*>(&listView_),
                                static_cast<QAbstractItemView*>(&detailsView_)}) {
-    v->setSelectionMode(multi ? QAbstractItemView::ExtendedSelection : QAbstractItemView::SingleSelection);
+    v->setSelectionMode(multi ? QAbstractItemView::ExtendedSelection
+                              : QAbstractItemView::SingleSelection);
   }
 }
 
@@ -167,8 +180,9 @@ void DocumentListWidget::applyColumns() {
     }
     header->setSortIndicatorShown(control().Sorted() && control().SortKey() < model_.columnCount());
     if (control().Sorted()) {
-      header->setSortIndicator(control().SortKey(),
-                               control().SortOrder() == lvwDescending ? Qt::DescendingOrder : Qt::AscendingOrder);
+      header->setSortIndicator(control().SortKey(), control().SortOrder() == lvwDescending
+                                                        ? Qt::DescendingOrder
+                                                        : Qt::AscendingOrder);
     }
   });
 }
@@ -197,7 +211,8 @@ void DocumentListWidget::userChangedSelection() {
     // never holds two; the current row last, so that it is SelectedItem.
     for (int32_t i = 1; i <= count; ++i) {
       ListItem& item = control().ListItems().item(i);
-      if (item.Selected() && !selection->isRowSelected(i - 1, QModelIndex())) item.setSelected(false);
+      if (item.Selected() && !selection->isRowSelected(i - 1, QModelIndex()))
+        item.setSelected(false);
     }
     ListItem* current = model_.itemAt(selection->currentIndex());
     for (int32_t i = 1; i <= count; ++i) {
@@ -206,13 +221,15 @@ void DocumentListWidget::userChangedSelection() {
         item.setSelected(true);
       }
     }
-    if (current && selection->isRowSelected(current->Index() - 1, QModelIndex())) current->setSelected(true);
+    if (current && selection->isRowSelected(current->Index() - 1, QModelIndex()))
+      current->setSelected(true);
   });
 }
 
 void DocumentListWidget::userResizedColumn(int section, int newSize) {
   if (syncing_ || section >= control().ColumnHeaders().Count()) return;
-  quietly(syncing_, [&] { control().ColumnHeaders().item(section + 1).setWidth(toTwips(newSize)); });
+  quietly(syncing_,
+          [&] { control().ColumnHeaders().item(section + 1).setWidth(toTwips(newSize)); });
 }
 
 void DocumentListWidget::userMovedColumn(int section, int newVisual) {

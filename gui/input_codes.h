@@ -4,9 +4,8 @@
 // platform numbers keys (Enter 13, Delete 46, arrows 37 to 40, letters by
 // their capital).
 
-#include <cstdint>
-
 #include <Qt>
+#include <cstdint>
 
 class QKeyEvent;
 

@@ -2,8 +2,7 @@
 
 namespace qb::gui {
 
-LabelWidget::LabelWidget(Label& control, QWidget* parent)
-    : BoundWidget(control, parent) {
+LabelWidget::LabelWidget(Label& control, QWidget* parent) : BoundWidget(control, parent) {
   setWordWrap(true);
   setTextFormat(Qt::PlainText);
   binding().forwardInputFrom(*this, true);
@@ -15,7 +14,7 @@ void LabelWidget::applyChange(ControlChange change) {
   setText(QString::fromStdString(control().Caption()));
   Qt::Alignment horizontal = control().Alignment() == 1   ? Qt::AlignRight
                              : control().Alignment() == 2 ? Qt::AlignHCenter
-                                                         : Qt::AlignLeft;
+                                                          : Qt::AlignLeft;
   setAlignment(horizontal | Qt::AlignTop);
 }
 

@@ -13,11 +13,18 @@ int columnsOf(const ListView& list) { return std::max(1, list.ColumnHeaders().Co
 }  // namespace
 
 ListViewItemModel::ListViewItemModel(ListView& list, QObject* parent)
-    : QAbstractTableModel(parent), list_(list), rows_(list.ListItems().Count()), columns_(columnsOf(list)) {}
+    : QAbstractTableModel(parent),
+      list_(list),
+      rows_(list.ListItems().Count()),
+      columns_(columnsOf(list)) {}
 
-int ListViewItemModel::rowCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : rows_; }
+int ListViewItemModel::rowCount(const QModelIndex& parent) const {
+  return parent.isValid() ? 0 : rows_;
+}
 
-int ListViewItemModel::columnCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : columns_; }
+int ListViewItemModel::columnCount(const QModelIndex& parent) const {
+  return parent.isValid() ? 0 : columns_;
+}
 
 ListItem* ListViewItemModel::itemAt(const QModelIndex& index) const {
   if (!index.isValid() || index.model() != this) return nullptr;
@@ -33,9 +40,12 @@ QModelIndex ListViewItemModel::indexOf(const ListItem& item) const {
 Qt::Alignment ListViewItemModel::alignmentOf(int column) const {
   if (column >= list_.ColumnHeaders().Count()) return Qt::AlignLeft | Qt::AlignVCenter;
   switch (list_.ColumnHeaders().item(column + 1).Alignment()) {
-    case lvwColumnRight: return Qt::AlignRight | Qt::AlignVCenter;
-    case lvwColumnCenter: return Qt::AlignHCenter | Qt::AlignVCenter;
-    default: return Qt::AlignLeft | Qt::AlignVCenter;
+    case lvwColumnRight:
+      return Qt::AlignRight | Qt::AlignVCenter;
+    case lvwColumnCenter:
+      return Qt::AlignHCenter | Qt::AlignVCenter;
+    default:
+      return Qt::AlignLeft | Qt::AlignVCenter;
   }
 }
 
@@ -43,7 +53,8 @@ QVariant ListViewItemModel::data(const QModelIndex& index, int role) const {
   ListItem* item = itemAt(index);
   if (item == nullptr || index.column() >= columns_) return QVariant();
   switch (role) {
-    case Qt::DisplayRole: return QString::fromStdString(item->SubItems(index.column()));
+    case Qt::DisplayRole:
+      return QString::fromStdString(item->SubItems(index.column()));
     case Qt::DecorationRole:
       if (index.column() != 0) return QVariant();
       return iconFor(list_.pictureOf(*item));
@@ -52,16 +63,20 @@ QVariant ListViewItemModel::data(const QModelIndex& index, int role) const {
       // large icon, left in the other views).
       if (index.column() == 0) return QVariant();
       return QVariant::fromValue(alignmentOf(index.column()));
-    default: return QVariant();
+    default:
+      return QVariant();
   }
 }
 
 QVariant ListViewItemModel::headerData(int section, Qt::Orientation orientation, int role) const {
   if (orientation != Qt::Horizontal || section >= list_.ColumnHeaders().Count()) return QVariant();
   switch (role) {
-    case Qt::DisplayRole: return QString::fromStdString(list_.ColumnHeaders().item(section + 1).Text());
-    case Qt::TextAlignmentRole: return QVariant::fromValue(alignmentOf(section));
-    default: return QVariant();
+    case Qt::DisplayRole:
+      return QString::fromStdString(list_.ColumnHeaders().item(section + 1).Text());
+    case Qt::TextAlignmentRole:
+      return QVariant::fromValue(alignmentOf(section));
+    default:
+      return QVariant();
   }
 }
 

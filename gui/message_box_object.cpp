@@ -10,16 +10,21 @@ namespace {
 
 QMessageBox::Icon iconOf(int16_t messageStyle, bool question) {
   switch (messageStyle) {
-    case 3: return QMessageBox::Critical;
-    case 4: return question ? QMessageBox::Question : QMessageBox::Warning;
-    case 10: return QMessageBox::Information;
-    default: return question ? QMessageBox::Question : QMessageBox::Information;
+    case 3:
+      return QMessageBox::Critical;
+    case 4:
+      return question ? QMessageBox::Question : QMessageBox::Warning;
+    case 10:
+      return QMessageBox::Information;
+    default:
+      return question ? QMessageBox::Question : QMessageBox::Information;
   }
 }
 
 }  // namespace
 
-MessageBoxObject::MessageBoxObject(QWidget* window, QString title) : window_(window), title_(std::move(title)) {}
+MessageBoxObject::MessageBoxObject(QWidget* window, QString title)
+    : window_(window), title_(std::move(title)) {}
 
 void MessageBoxObject::setUnattended(std::ostream* log, int32_t answer) {
   unattended_ = true;
@@ -32,14 +37,15 @@ QWidget* MessageBoxObject::parentFor(OwnerForm* owner) const {
   return widget ? widget : window_.data();
 }
 
-void MessageBoxObject::showMessage(const std::string& text, int16_t messageStyle, OwnerForm* owner) {
+void MessageBoxObject::showMessage(const std::string& text, int16_t messageStyle,
+                                   OwnerForm* owner) {
   texts_.push_back(text);
   if (unattended_) {
     if (log_) *log_ << text << "\n";
     return;
   }
-  QMessageBox box(iconOf(messageStyle, false), title_, QString::fromStdString(text), QMessageBox::Ok,
-                  parentFor(owner));
+  QMessageBox box(iconOf(messageStyle, false), title_, QString::fromStdString(text),
+                  QMessageBox::Ok, parentFor(owner));
   box.exec();
 }
 

@@ -8,14 +8,13 @@
 // Unattended (for screenshots and tests) it shows no dialog: messages are
 // written to a stream and every question gets a fixed answer.
 
+#include <QPointer>
+#include <QString>
+#include <QWidget>
 #include <cstdint>
 #include <ostream>
 #include <string>
 #include <vector>
-
-#include <QPointer>
-#include <QString>
-#include <QWidget>
 
 #include "services/host/message_object.h"
 
@@ -28,7 +27,8 @@ class MessageBoxObject : public MessageObject {
   MessageBoxObject(QWidget* window, QString title);
 
   void showMessage(const std::string& text, int16_t messageStyle, OwnerForm* owner) override;
-  void askMessage(const std::string& text, int16_t messageStyle, OwnerForm* owner, int32_t& result) override;
+  void askMessage(const std::string& text, int16_t messageStyle, OwnerForm* owner,
+                  int32_t& result) override;
 
   // No dialogs from now on: texts go to log (when given), questions get
   // answer (1, no, unless told).

@@ -4,10 +4,9 @@
 // sub-menus, hidden entries are left out), and the choice made on it turned
 // into the chosen entry's click, which runs its handler.
 
-#include <memory>
-
 #include <QHash>
 #include <QMenu>
+#include <memory>
 
 namespace qb {
 class MenuItem;

@@ -17,9 +17,9 @@ struct ButtonIcon {
 // Theme icons of the component's buttons, by control name and index. The
 // narrow buttons of the list side keep their room for the caption.
 constexpr ButtonIcon kButtonIcons[] = {
-    {"cmdClientNav", 0, "go-first"},     {"cmdClientNav", 1, "go-previous"},
-    {"cmdClientNav", 2, "go-next"},      {"cmdClientNav", 3, "go-last"},
-    {"cmdClientNav", 4, "edit-find"},    {"cmdDocManager", 4, "folder-new"},
+    {"cmdClientNav", 0, "go-first"},  {"cmdClientNav", 1, "go-previous"},
+    {"cmdClientNav", 2, "go-next"},   {"cmdClientNav", 3, "go-last"},
+    {"cmdClientNav", 4, "edit-find"}, {"cmdDocManager", 4, "folder-new"},
 };
 
 }  // namespace
@@ -30,7 +30,9 @@ PressButtonWidget::PressButtonWidget(CommandButton& control, QWidget* parent)
     if (entry.control == control.Name() && entry.index == control.Index()) {
       // A button of an icon alone shows it in the button's text colour.
       const QIcon icon = QIcon::fromTheme(entry.icon);
-      setIcon(control.Caption().empty() ? monochromeIcon(icon, palette().color(QPalette::ButtonText)) : icon);
+      setIcon(control.Caption().empty()
+                  ? monochromeIcon(icon, palette().color(QPalette::ButtonText))
+                  : icon);
       setIconSize(QSize(16, 16));
     }
   }

@@ -19,17 +19,19 @@ constexpr qint64 kPumpSliceMs = 20;
 }  // namespace
 
 QtPlatform::QtPlatform(QWidget* window)
-    : window_(window), runner_([](PopupMenu& menu, const QPoint& position) { return menu.menu().exec(position); }) {
+    : window_(window),
+      runner_([](PopupMenu& menu, const QPoint& position) { return menu.menu().exec(position); }) {
   installEventPump([this] { pumpEvents(); });
   pointerObserver_ = screen().addObserver([this](int16_t pointer) { showPointer(pointer); });
-  installPopupMenuHandler([this](MenuItem& model, int32_t flags, std::optional<float> x, std::optional<float> y) {
-    PopupMenu menu(model, window_);
-    QPoint position = QCursor::pos();
-    if (x && y && window_) position = window_->mapToGlobal(QPoint(toPixels(*x), toPixels(*y)));
-    // Right-aligned: the menu's right edge stands at the point.
-    if (flags & kRightAlign) position.rx() -= menu.menu().sizeHint().width();
-    menu.choose(runner_(menu, position));
-  });
+  installPopupMenuHandler(
+      [this](MenuItem& model, int32_t flags, std::optional<float> x, std::optional<float> y) {
+        PopupMenu menu(model, window_);
+        QPoint position = QCursor::pos();
+        if (x && y && window_) position = window_->mapToGlobal(QPoint(toPixels(*x), toPixels(*y)));
+        // Right-aligned: the menu's right edge stands at the point.
+        if (flags & kRightAlign) position.rx() -= menu.menu().sizeHint().width();
+        menu.choose(runner_(menu, position));
+      });
 }
 
 QtPlatform::~QtPlatform() {

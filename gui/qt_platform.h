@@ -7,10 +7,9 @@
 // from the menu model and run at the mouse, and the entry chosen runs its
 // click. Destroying it puts the platform back to its start state.
 
-#include <functional>
-
 #include <QElapsedTimer>
 #include <QPoint>
+#include <functional>
 
 #include "gui/popup_menu.h"
 

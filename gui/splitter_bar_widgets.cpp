@@ -6,8 +6,7 @@
 
 namespace qb::gui {
 
-SplitterBarWidget::SplitterBarWidget(PictureBox& bar, QWidget* parent)
-    : BoundWidget(bar, parent) {
+SplitterBarWidget::SplitterBarWidget(PictureBox& bar, QWidget* parent) : BoundWidget(bar, parent) {
   // The bar takes every mouse move, also without a button, as the platform
   // sends them.
   setMouseTracking(true);
@@ -30,8 +29,7 @@ void SplitterBarWidget::paintEvent(QPaintEvent*) {
   }
 }
 
-GhostBarWidget::GhostBarWidget(PictureBox& ghost, QWidget* parent)
-    : BoundWidget(ghost, parent) {
+GhostBarWidget::GhostBarWidget(PictureBox& ghost, QWidget* parent) : BoundWidget(ghost, parent) {
   setAttribute(Qt::WA_TransparentForMouseEvents);
   binding().applyAll();
 }

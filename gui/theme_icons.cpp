@@ -17,10 +17,12 @@ namespace {
 // The icon folders of the system's data directories.
 QStringList systemIconFolders() {
   QStringList folders;
-  for (const QString& data : QStandardPaths::standardLocations(QStandardPaths::GenericDataLocation)) {
+  for (const QString& data :
+       QStandardPaths::standardLocations(QStandardPaths::GenericDataLocation)) {
     folders << data + "/icons";
   }
-  folders << "/usr/share/icons" << "/usr/local/share/icons";
+  folders << "/usr/share/icons"
+          << "/usr/local/share/icons";
   QStringList existing;
   for (const QString& folder : folders) {
     if (QDir(folder).exists() && !existing.contains(folder)) existing << folder;

@@ -4,9 +4,8 @@
 // looks them up here. A name the theme lacks falls back to the generic icon
 // of its file type, then to a drawn page, so no row or node is ever blank.
 
-#include <string>
-
 #include <QIcon>
+#include <string>
 
 #include "services/controls/picture.h"
 

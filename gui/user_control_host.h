@@ -7,9 +7,8 @@
 // The controls are drawn at 8 points, the size their places are made for.
 // The host must be destroyed before the control it renders.
 
-#include <functional>
-
 #include <QWidget>
+#include <functional>
 
 #include "gui/control_widgets.h"
 #include "services/controls/container_control.h"

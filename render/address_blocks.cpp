@@ -44,9 +44,7 @@ void clearAddressFields(AddressRecord& address) {
 std::string convertToRTF(std::string text) {
   Procedure proc(traceName("convertToRTF"));
   std::string result;
-  proc.step([&] {
-    result = Replace(toRtfEscapes(text), "\r\n", "\r\n\\par ", CompareMode::Text);
-  });
+  proc.step([&] { result = Replace(toRtfEscapes(text), "\r\n", "\r\n\\par ", CompareMode::Text); });
   return result;
 }
 

@@ -20,8 +20,7 @@ namespace {
 using AddressColumns = const char* const[5];
 constexpr AddressColumns kPersonColumns = {"BusinessAddress", "BusinessCity", "BusinessProvince",
                                            "BusinessPostalCode", "BusinessCountry"};
-constexpr AddressColumns kCompanyColumns = {"Address", "City", "Province", "PostalCode",
-                                            "Country"};
+constexpr AddressColumns kCompanyColumns = {"Address", "City", "Province", "PostalCode", "Country"};
 
 void readAddress(DatabaseReference& db, RecordsetHandle row, const AddressColumns& columns,
                  AddressRecord& address) {
@@ -37,7 +36,8 @@ bool blank(const std::string& value) { return isBlankValue(Variant(value)); }
 // marks of an RTF block stay.
 std::string trimBlock(const std::string& text) {
   std::string result = Trim(text);
-  while (!result.empty() && (result.back() == '\r' || result.back() == '\n' || result.back() == ' ')) {
+  while (!result.empty() &&
+         (result.back() == '\r' || result.back() == '\n' || result.back() == ' ')) {
     result.pop_back();
   }
   return result;
@@ -54,7 +54,7 @@ std::string createBusinessContactAddress(int32_t& contactID, bool& convertRTF, i
   AddressRecord address;
   bool companyOpen = false;  // a company (or firm) recordset was opened
   bool personFound = false;
-  bool readPerson = false;   // an id was valid and the person's recordset opened
+  bool readPerson = false;  // an id was valid and the person's recordset opened
   RecordsetHandle person = 0;
   RecordsetHandle company = 0;
   auto db = render::storeReference();
@@ -68,7 +68,8 @@ std::string createBusinessContactAddress(int32_t& contactID, bool& convertRTF, i
       readPerson = true;
       person = db->openRecordset(
           "SELECT AccountantEmployeeInfo.* FROM AccountantEmployeeInfo WHERE "
-          "AccountantEmployeeInfo.ContactID=" + std::to_string(employeeID) + ";",
+          "AccountantEmployeeInfo.ContactID=" +
+              std::to_string(employeeID) + ";",
           adOpenKeyset, adLockReadOnly);
       // The reverse of the contact path: a valid firm id means no firm address.
       if (db_functions::validFirmID(std::to_string(companyID))) {
@@ -78,23 +79,22 @@ std::string createBusinessContactAddress(int32_t& contactID, bool& convertRTF, i
         companyID = db_functions::getAccountantFirmID();
         company = db->openRecordset(
             "SELECT AccountantFirmInfo.* FROM AccountantFirmInfo WHERE "
-            "AccountantFirmInfo.CompanyID=" + std::to_string(companyID) + ";",
+            "AccountantFirmInfo.CompanyID=" +
+                std::to_string(companyID) + ";",
             adOpenKeyset, adLockReadOnly);
       }
     } else if (db_functions::validContactID(std::to_string(contactID))) {
       readPerson = true;
-      person = db->openRecordset(
-          "SELECT Contacts.* FROM Contacts WHERE Contacts.ContactID=" + std::to_string(contactID) +
-              ";",
-          adOpenKeyset, adLockReadOnly);
+      person = db->openRecordset("SELECT Contacts.* FROM Contacts WHERE Contacts.ContactID=" +
+                                     std::to_string(contactID) + ";",
+                                 adOpenKeyset, adLockReadOnly);
       if (!db_functions::validCompanyID(std::to_string(companyID))) {
         companyID = -1;
       } else {
         companyOpen = true;
-        company = db->openRecordset(
-            "SELECT Companies.* FROM Companies WHERE Companies.CompanyID=" +
-                std::to_string(companyID) + ";",
-            adOpenKeyset, adLockReadOnly);
+        company = db->openRecordset("SELECT Companies.* FROM Companies WHERE Companies.CompanyID=" +
+                                        std::to_string(companyID) + ";",
+                                    adOpenKeyset, adLockReadOnly);
       }
     }
     if (!readPerson) proc.leave();

@@ -22,7 +22,8 @@ void saveContactBusinessRTFForAllCompanies(int32_t contactID, int32_t companyID,
     render::openWhenConnected(
         proc, db,
         "SELECT ContactLinks.ContactIDNum, ContactLinks.CompanyNum, ContactLinks.DefaultContact "
-        "FROM ContactLinks WHERE ContactLinks.ContactIDNum = " + std::to_string(contactID) + ";",
+        "FROM ContactLinks WHERE ContactLinks.ContactIDNum = " +
+            std::to_string(contactID) + ";",
         adLockOptimistic, links);
     if (!proc.leaving() && !db->moveFirstRecord(links)) {
       db->closeRecordset(links);
@@ -77,7 +78,8 @@ void saveCompanyContactRTF(int32_t companyID, int32_t contactID) {
     }
     companyNotes = db->openRecordset(
         "SELECT CompaniesNotes.CompanyNum, CompaniesNotes.ContactNotes FROM CompaniesNotes "
-        "WHERE CompanyNum=" + std::to_string(companyID) + ";",
+        "WHERE CompanyNum=" +
+            std::to_string(companyID) + ";",
         adOpenKeyset, adLockOptimistic);
   });
   proc.step([&] {

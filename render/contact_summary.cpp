@@ -67,19 +67,23 @@ struct LinkedNames {
 };
 
 LinkedNames associatedCompanies(const std::string& personID) {
-  return {"SELECT ContactLinks.ContactIDNum, ContactLinks.CompanyNum, Companies.CompanyName "
-          "FROM ContactLinks INNER JOIN Companies ON ContactLinks.CompanyNum = Companies.CompanyID "
-          "WHERE ContactLinks.ContactIDNum=" + personID + " AND Not ContactLinks.CompanyNum Is Null;",
-          "CompanyName", "\\b\\pard\\fi0\\li0\\ri0 Associated Company: \\b0 ",
-          "\\b\\pard\\fi0\\li0\\ri0 Other Associated Companies: \\b0\\par"};
+  return {
+      "SELECT ContactLinks.ContactIDNum, ContactLinks.CompanyNum, Companies.CompanyName "
+      "FROM ContactLinks INNER JOIN Companies ON ContactLinks.CompanyNum = Companies.CompanyID "
+      "WHERE ContactLinks.ContactIDNum=" +
+          personID + " AND Not ContactLinks.CompanyNum Is Null;",
+      "CompanyName", "\\b\\pard\\fi0\\li0\\ri0 Associated Company: \\b0 ",
+      "\\b\\pard\\fi0\\li0\\ri0 Other Associated Companies: \\b0\\par"};
 }
 
 LinkedNames associatedCategories(const std::string& personID) {
-  return {"SELECT Categories.CategoryName, ContactLinks.ContactIDNum "
-          "FROM Categories INNER JOIN ContactLinks ON Categories.CategoryID = ContactLinks.CategoryNum "
-          "WHERE ContactLinks.ContactIDNum=" + personID + ";",
-          "CategoryName", "\\b\\pard\\fi0\\li0\\ri0 Associated Category: \\b0 ",
-          "\\b\\pard\\fi0\\li0\\ri0 Other Associated Categories: \\b0\\par"};
+  return {
+      "SELECT Categories.CategoryName, ContactLinks.ContactIDNum "
+      "FROM Categories INNER JOIN ContactLinks ON Categories.CategoryID = ContactLinks.CategoryNum "
+      "WHERE ContactLinks.ContactIDNum=" +
+          personID + ";",
+      "CategoryName", "\\b\\pard\\fi0\\li0\\ri0 Associated Category: \\b0 ",
+      "\\b\\pard\\fi0\\li0\\ri0 Other Associated Categories: \\b0\\par"};
 }
 
 // The summary as it grows. The section flag says the current section wrote
@@ -162,7 +166,8 @@ std::string saveContactBusinessRTF(int32_t& contactID, int32_t& employeeID, int3
       personID = std::to_string(employeeID);
       person = db->openRecordset(
           "SELECT AccountantEmployeeInfo.* FROM AccountantEmployeeInfo WHERE "
-          "AccountantEmployeeInfo.ContactID=" + personID + ";",
+          "AccountantEmployeeInfo.ContactID=" +
+              personID + ";",
           adOpenKeyset, adLockOptimistic);
     } else if (db_functions::validContactID(std::to_string(contactID))) {
       personID = std::to_string(contactID);
@@ -236,7 +241,8 @@ std::string saveContactBusinessRTF(int32_t& contactID, int32_t& employeeID, int3
     static const char* const kAltColumns[] = {"AltAddress", "AltCity", "AltProvince",
                                               "AltPostalCode", "AltCountry"};
     bool anyFilled = false;
-    for (const char* column : kAltColumns) anyFilled = anyFilled || !fieldBlank(*db, person, column);
+    for (const char* column : kAltColumns)
+      anyFilled = anyFilled || !fieldBlank(*db, person, column);
     if (!anyFilled) return;
     AddressRecord alternate;
     alternate.addressText = fieldText(*db, person, "AltAddress");
@@ -251,8 +257,7 @@ std::string saveContactBusinessRTF(int32_t& contactID, int32_t& employeeID, int3
       summary.text += "\\b\\pard\\fi0\\li0\\ri0 Address:\\b0\\par\r\n";
     } else {
       summary.text += "\\b\\pard\\fi0\\li0\\ri0 Address (" +
-                       rtf::storedText(fieldText(*db, person, "AltAddressName")) +
-                       "):\\b0\\par\r\n";
+                      rtf::storedText(fieldText(*db, person, "AltAddressName")) + "):\\b0\\par\r\n";
     }
     summary.line(block);
   });
@@ -275,7 +280,7 @@ std::string saveContactBusinessRTF(int32_t& contactID, int32_t& employeeID, int3
       if (fieldBlank(*db, person, column.c_str())) continue;
       std::string labelColumn = "ContactLabel" + std::to_string(n);
       summary.line("\\b " + rtf::storedText(fieldText(*db, customFields, labelColumn.c_str())) +
-                    "\\b0  " + rtf::storedText(fieldText(*db, person, column.c_str())));
+                   "\\b0  " + rtf::storedText(fieldText(*db, person, column.c_str())));
     }
     summary.endSection();
   });

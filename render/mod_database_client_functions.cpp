@@ -23,7 +23,8 @@ std::string traceName(const char* procedure) {
 // The company's links, with the three columns every link query selects.
 std::string companyLinksSql(int32_t companyID) {
   return "SELECT ContactLinks.ContactIDNum, ContactLinks.CompanyNum, ContactLinks.DefaultContact "
-         "FROM ContactLinks WHERE ContactLinks.CompanyNum = " + std::to_string(companyID) + ";";
+         "FROM ContactLinks WHERE ContactLinks.CompanyNum = " +
+         std::to_string(companyID) + ";";
 }
 
 // The four copied columns, each with the contact column it copies.
@@ -177,7 +178,8 @@ int32_t getDefaultContactIDFromCompanyID(int32_t companyID) {
     render::openWhenConnected(
         proc, db,
         "SELECT ContactLinks.CompanyNum, ContactLinks.ContactIDNum, ContactLinks.DefaultContact "
-        "FROM ContactLinks WHERE ContactLinks.CompanyNum = " + std::to_string(companyID) + ";",
+        "FROM ContactLinks WHERE ContactLinks.CompanyNum = " +
+            std::to_string(companyID) + ";",
         adLockReadOnly, links);
   });
   proc.step([&] {
@@ -213,7 +215,8 @@ bool isContactDefaultContact(int32_t companyID, int32_t contactID) {
     render::openWhenConnected(
         proc, db,
         "SELECT ContactLinks.ContactIDNum, ContactLinks.CompanyNum, ContactLinks.DefaultContact "
-        "FROM ContactLinks WHERE CompanyNum=" + std::to_string(companyID) +
+        "FROM ContactLinks WHERE CompanyNum=" +
+            std::to_string(companyID) +
             " AND ContactLinks.ContactIDNum = " + std::to_string(contactID) + ";",
         adLockReadOnly, links);
   });

@@ -35,8 +35,10 @@ class Splitter : public ContainerControl {
   static constexpr const char* kDescribeSplitterPosition = "Sets/Returns the splitter position.";
   static constexpr const char* kDescribeLeftOrTopControl =
       "Sets/ returns the top or left control of the splitter";
-  static constexpr const char* kDescribeOrientation = "Specifies what direction the splitter is set.";
-  static constexpr const char* kDescribeRightOrBottomControl = "Returns/Sets the botoom, or top control.";
+  static constexpr const char* kDescribeOrientation =
+      "Specifies what direction the splitter is set.";
+  static constexpr const char* kDescribeRightOrBottomControl =
+      "Returns/Sets the botoom, or top control.";
   static constexpr const char* kDescribeSplitterMax = "Maximum Right or Top of Splitter Position";
   static constexpr const char* kDescribeSplitterMin = "Minimum Left or Bottom of Splitter Position";
   static constexpr const char* kDescribeSplitterColor = "Color Of The Splitter Bar";

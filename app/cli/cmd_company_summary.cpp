@@ -14,10 +14,12 @@ namespace {
 std::string storedContactNotes(SqliteDatabase& store, int32_t companyID) {
   RecordsetHandle notes = store.openRecordset(
       "SELECT CompaniesNotes.CompanyNum, CompaniesNotes.ContactNotes FROM CompaniesNotes "
-      "WHERE CompanyNum=" + std::to_string(companyID) + ";",
+      "WHERE CompanyNum=" +
+          std::to_string(companyID) + ";",
       adOpenKeyset, adLockReadOnly);
   std::string text;
-  if (store.moveFirstRecord(notes)) text = toText(store.getFieldValue(notes, Variant("ContactNotes")));
+  if (store.moveFirstRecord(notes))
+    text = toText(store.getFieldValue(notes, Variant("ContactNotes")));
   store.closeRecordset(notes);
   return text;
 }

@@ -15,10 +15,10 @@ int runName(Context& context) {
   bool byType = args.has("type");
   int32_t type = args.id("type", 0);
   Session session(context);
-  std::string name =
-      byType ? modDatabaseFunctions::getContactNameDisplayedByType(type, contactID, relatedID,
-                                                                   showRelationship)
-             : modDatabaseFunctions::getContactNameDisplayed(contactID, relatedID, showRelationship);
+  std::string name = byType ? modDatabaseFunctions::getContactNameDisplayedByType(
+                                  type, contactID, relatedID, showRelationship)
+                            : modDatabaseFunctions::getContactNameDisplayed(contactID, relatedID,
+                                                                            showRelationship);
   context.out << name << "\n";
   return session.exitStatus();
 }

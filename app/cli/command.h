@@ -45,11 +45,11 @@ struct Context {
 
 struct Command {
   std::string name;
-  std::string summary;                 // one line for `quillbox --help`
-  std::string help;                    // the whole text for `quillbox NAME --help`
+  std::string summary;                    // one line for `quillbox --help`
+  std::string help;                       // the whole text for `quillbox NAME --help`
   std::vector<std::string> valueOptions;  // options that take a value, without "--"
   std::vector<std::string> flagOptions;   // options without a value
-  std::function<int(Context&)> run;    // returns the exit status
+  std::function<int(Context&)> run;       // returns the exit status
 };
 
 std::vector<Command>& commandRegistry();

@@ -28,7 +28,8 @@ void printToolHelp(std::ostream& out) {
   std::sort(commands.begin(), commands.end(),
             [](const Command& a, const Command& b) { return a.name < b.name; });
   for (const Command& command : commands) {
-    out << "  " << command.name << std::string(command.name.size() < 16 ? 16 - command.name.size() : 1, ' ')
+    out << "  " << command.name
+        << std::string(command.name.size() < 16 ? 16 - command.name.size() : 1, ' ')
         << command.summary << "\n";
   }
   out << "\n" << kGlobalHelp << "\nRun 'quillbox COMMAND --help' for a command's options.\n";

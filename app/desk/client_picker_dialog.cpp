@@ -31,8 +31,8 @@ ClientPickerDialog::ClientPickerDialog(const ClientRoster& roster, int current, 
   list_->header()->setSectionResizeMode(1, QHeaderView::ResizeToContents);
   for (int i = 0; i < roster.size(); ++i) {
     const Client& client = roster.at(i);
-    auto* item = new QTreeWidgetItem(list_, {QString::fromStdString(client.name),
-                                             client.isCompany ? "Company" : "Contact"});
+    auto* item = new QTreeWidgetItem(
+        list_, {QString::fromStdString(client.name), client.isCompany ? "Company" : "Contact"});
     item->setData(0, Qt::UserRole, i);
     if (i == current) list_->setCurrentItem(item);
   }
@@ -59,7 +59,8 @@ void ClientPickerDialog::filter(const QString& text) {
     item->setHidden(!shown);
     if (shown && firstShown == nullptr) firstShown = item;
   }
-  if (list_->currentItem() == nullptr || list_->currentItem()->isHidden()) list_->setCurrentItem(firstShown);
+  if (list_->currentItem() == nullptr || list_->currentItem()->isHidden())
+    list_->setCurrentItem(firstShown);
 }
 
 int ClientPickerDialog::picked() const {

@@ -1,10 +1,9 @@
 #include "app/desk/client_roster.h"
 
+#include <QString>
 #include <algorithm>
 #include <functional>
 #include <set>
-
-#include <QString>
 
 #include "data/mod_database_functions.h"
 #include "services/runtime/conversions.h"
@@ -38,7 +37,8 @@ int32_t idField(DatabaseReference& store, RecordsetHandle handle, const char* fi
 
 void sortByName(std::vector<Client>::iterator first, std::vector<Client>::iterator last) {
   std::stable_sort(first, last, [](const Client& a, const Client& b) {
-    return QString::fromStdString(a.name).compare(QString::fromStdString(b.name), Qt::CaseInsensitive) < 0;
+    return QString::fromStdString(a.name).compare(QString::fromStdString(b.name),
+                                                  Qt::CaseInsensitive) < 0;
   });
 }
 
@@ -52,7 +52,8 @@ ClientRoster ClientRoster::load(DatabaseReference& store) {
     forEachRow(store, "SELECT CompanyID, CompanyName FROM Companies;", [&](RecordsetHandle row) {
       const int32_t id = idField(store, row, "CompanyID");
       if (id == firm) return;
-      roster.clients_.push_back({true, id, CStr(store.getFieldValue(row, Variant(std::string("CompanyName"))))});
+      roster.clients_.push_back(
+          {true, id, CStr(store.getFieldValue(row, Variant(std::string("CompanyName"))))});
     });
     const size_t companies = roster.clients_.size();
     std::set<int32_t> users;
@@ -61,10 +62,13 @@ ClientRoster ClientRoster::load(DatabaseReference& store) {
     forEachRow(store, "SELECT ContactID FROM Contacts;", [&](RecordsetHandle row) {
       const int32_t id = idField(store, row, "ContactID");
       if (users.count(id)) return;
-      roster.clients_.push_back({false, id, modDatabaseFunctions::getContactNameDisplayed(id, -1, false)});
+      roster.clients_.push_back(
+          {false, id, modDatabaseFunctions::getContactNameDisplayed(id, -1, false)});
     });
-    sortByName(roster.clients_.begin(), roster.clients_.begin() + static_cast<std::ptrdiff_t>(companies));
-    sortByName(roster.clients_.begin() + static_cast<std::ptrdiff_t>(companies), roster.clients_.end());
+    sortByName(roster.clients_.begin(),
+               roster.clients_.begin() + static_cast<std::ptrdiff_t>(companies));
+    sortByName(roster.clients_.begin() + static_cast<std::ptrdiff_t>(companies),
+               roster.clients_.end());
     forEachRow(store, "SELECT DISTINCT CompanyIDNum FROM Documents;", [&](RecordsetHandle row) {
       roster.companiesWithDocuments_.push_back(idField(store, row, "CompanyIDNum"));
     });
@@ -76,7 +80,8 @@ ClientRoster ClientRoster::load(DatabaseReference& store) {
 
 int ClientRoster::find(bool isCompany, int32_t id) const {
   for (int i = 0; i < size(); ++i) {
-    if (clients_[static_cast<size_t>(i)].isCompany == isCompany && clients_[static_cast<size_t>(i)].id == id) {
+    if (clients_[static_cast<size_t>(i)].isCompany == isCompany &&
+        clients_[static_cast<size_t>(i)].id == id) {
       return i;
     }
   }
@@ -86,7 +91,8 @@ int ClientRoster::find(bool isCompany, int32_t id) const {
 int ClientRoster::firstWithDocuments() const {
   for (int i = 0; i < size(); ++i) {
     const Client& client = clients_[static_cast<size_t>(i)];
-    if (client.isCompany && std::count(companiesWithDocuments_.begin(), companiesWithDocuments_.end(), client.id)) {
+    if (client.isCompany &&
+        std::count(companiesWithDocuments_.begin(), companiesWithDocuments_.end(), client.id)) {
       return i;
     }
   }

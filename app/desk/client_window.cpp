@@ -30,15 +30,17 @@ namespace qb::desk {
 namespace {
 
 constexpr const char* kProduct = "Orvanta";
-constexpr int kMinimumWidth = 640;   // pixels the component needs to lay itself out
+constexpr int kMinimumWidth = 640;  // pixels the component needs to lay itself out
 constexpr int kMinimumHeight = 400;
 
 struct ViewEntry {
   const char* text;
   enumListViewViews view;
 };
-constexpr ViewEntry kViews[] = {
-    {"&Icons", viewIcons}, {"&Small Icons", viewSmallIcons}, {"&List", viewList}, {"&Details", viewDetails}};
+constexpr ViewEntry kViews[] = {{"&Icons", viewIcons},
+                                {"&Small Icons", viewSmallIcons},
+                                {"&List", viewList},
+                                {"&Details", viewDetails}};
 
 }  // namespace
 
@@ -76,14 +78,15 @@ void ClientWindow::buildMenus() {
                                   [this] { chooseDatabase(); });
   open->setShortcut(QKeySequence::Open);
   file->addSeparator();
-  QAction* quit = file->addAction(QIcon::fromTheme("application-exit"), "&Quit", this, [this] { close(); });
+  QAction* quit =
+      file->addAction(QIcon::fromTheme("application-exit"), "&Quit", this, [this] { close(); });
   quit->setShortcut(QKeySequence::Quit);
 
   QMenu* client = menuBar()->addMenu("&Client");
   client->addAction(QIcon::fromTheme("go-first"), "&First Client", QKeySequence("Alt+Home"), this,
                     [this] { moveTo(0); });
-  client->addAction(QIcon::fromTheme("go-previous"), "&Previous Client", QKeySequence("Alt+PgUp"), this,
-                    [this] { moveTo(current_ - 1); });
+  client->addAction(QIcon::fromTheme("go-previous"), "&Previous Client", QKeySequence("Alt+PgUp"),
+                    this, [this] { moveTo(current_ - 1); });
   client->addAction(QIcon::fromTheme("go-next"), "&Next Client", QKeySequence("Alt+PgDown"), this,
                     [this] { moveTo(current_ + 1); });
   client->addAction(QIcon::fromTheme("go-last"), "&Last Client", QKeySequence("Alt+End"), this,
@@ -104,9 +107,10 @@ void ClientWindow::buildMenus() {
     });
   }
   view->addSeparator();
-  view->addAction(QIcon::fromTheme("view-refresh"), "&Refresh", QKeySequence::Refresh, this, [this] {
-    if (component_) component_->setupDocumentsDisplay();
-  });
+  view->addAction(QIcon::fromTheme("view-refresh"), "&Refresh", QKeySequence::Refresh, this,
+                  [this] {
+                    if (component_) component_->setupDocumentsDisplay();
+                  });
 }
 
 bool ClientWindow::openDatabase(const QString& path) {
@@ -257,7 +261,8 @@ void ClientWindow::findClient() {
 }
 
 void ClientWindow::chooseDatabase() {
-  const QString start = store_ ? QString::fromStdString(folder_->getDataFolder()) : QDir::homePath();
+  const QString start =
+      store_ ? QString::fromStdString(folder_->getDataFolder()) : QDir::homePath();
   const QString path = QFileDialog::getOpenFileName(this, "Open Client Database", start,
                                                     "Client databases (*.db);;All files (*)");
   if (path.isEmpty()) return;
@@ -271,8 +276,9 @@ void ClientWindow::listChanged() {
     documentStatus_->clear();
     return;
   }
-  clientStatus_->setText(current_ >= 0 ? QString("Client %1 of %2").arg(current_ + 1).arg(roster_.size())
-                                       : QString("%1 clients").arg(roster_.size()));
+  clientStatus_->setText(current_ >= 0
+                             ? QString("Client %1 of %2").arg(current_ + 1).arg(roster_.size())
+                             : QString("%1 clients").arg(roster_.size()));
   const int count = component_->lvDocuments().ListItems().Count();
   documentStatus_->setText(count == 1 ? QString("1 document") : QString("%1 documents").arg(count));
   for (QAction* action : views_->actions()) {
@@ -283,7 +289,8 @@ void ClientWindow::listChanged() {
 void ClientWindow::updateTitle() {
   std::string firm;
   if (component_) {
-    firm = modDatabaseFunctions::getCompanyNameFromCompanyID(modDatabaseFunctions::getAccountantFirmID());
+    firm = modDatabaseFunctions::getCompanyNameFromCompanyID(
+        modDatabaseFunctions::getAccountantFirmID());
   }
   setWindowTitle(firm.empty() ? QString("Client Documents")
                               : QString("Client Documents — %1").arg(QString::fromStdString(firm)));

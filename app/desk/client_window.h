@@ -9,9 +9,8 @@
 // the component's navigation events, keeps the view menu in step with the
 // list, and saves the user's list settings when it closes.
 
-#include <memory>
-
 #include <QMainWindow>
+#include <memory>
 
 #include "app/desk/client_roster.h"
 #include "app/desk/desk_options.h"

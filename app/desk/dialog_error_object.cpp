@@ -24,7 +24,8 @@ void DialogErrorObject::showError() {
   }
   const QString text = QString::fromStdString(report);
   const qsizetype lineEnd = text.indexOf('\n');
-  QMessageBox box(QMessageBox::Critical, title_, text.left(lineEnd), QMessageBox::Ok, window_.data());
+  QMessageBox box(QMessageBox::Critical, title_, text.left(lineEnd), QMessageBox::Ok,
+                  window_.data());
   box.setInformativeText("The operation was stopped.");
   box.setDetailedText(text.mid(lineEnd + 1));
   box.exec();

@@ -5,12 +5,11 @@
 // always "leave the procedure" (2). Unattended it writes the report to a
 // stream instead.
 
-#include <ostream>
-#include <sstream>
-
 #include <QPointer>
 #include <QString>
 #include <QWidget>
+#include <ostream>
+#include <sstream>
 
 #include "services/errors/console_error_object.h"
 

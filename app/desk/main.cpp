@@ -22,7 +22,8 @@ bool hasDisplay() {
 QString defaultScreenshotPath(const QString& databasePath) {
   const QString beside = QCoreApplication::applicationDirPath() + "/screenshots";
   if (QDir().mkpath(beside) && QFileInfo(beside).isWritable()) return beside + "/quillbox-desk.png";
-  const QString folder = databasePath.isEmpty() ? QDir::currentPath() : QFileInfo(databasePath).absolutePath();
+  const QString folder =
+      databasePath.isEmpty() ? QDir::currentPath() : QFileInfo(databasePath).absolutePath();
   return folder + "/quillbox-desk.png";
 }
 
@@ -44,7 +45,8 @@ int32_t number(const QCommandLineParser& parser, const QString& name, int32_t fa
 }  // namespace
 
 int main(int argc, char** argv) {
-  if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM") && !hasDisplay()) qputenv("QT_QPA_PLATFORM", "offscreen");
+  if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM") && !hasDisplay())
+    qputenv("QT_QPA_PLATFORM", "offscreen");
   qInstallMessageHandler(quietOffscreen);
   QApplication app(argc, argv);
   QApplication::setApplicationName("quillbox-desk");
@@ -55,8 +57,10 @@ int main(int argc, char** argv) {
   parser.addHelpOption();
   parser.addOptions({
       {"db", "The client database to open.", "FILE"},
-      {"client", "The client to start with: company:ID or contact:ID (default: the first company "
-                 "that has documents).", "KIND:ID"},
+      {"client",
+       "The client to start with: company:ID or contact:ID (default: the first company "
+       "that has documents).",
+       "KIND:ID"},
       {"country", "The firm's country: 1 Canada, 2 United States (default 1).", "N"},
       {"province", "The firm's province code (default 3, Ontario).", "N"},
       {"user", "The signed-in user's id (default 1).", "N"},
@@ -67,7 +71,8 @@ int main(int argc, char** argv) {
   qb::desk::DeskOptions options;
   try {
     options.databasePath = parser.value("db").toStdString();
-    if (parser.isSet("client")) qb::desk::parseClient(parser.value("client").toStdString(), options);
+    if (parser.isSet("client"))
+      qb::desk::parseClient(parser.value("client").toStdString(), options);
     options.country = number(parser, "country", options.country);
     options.province = number(parser, "province", options.province);
     options.user = number(parser, "user", options.user);

@@ -49,8 +49,7 @@ void ColumnHeader::setPosition(int16_t value) {
 }
 
 ColumnHeader& ColumnHeaderCollection::Add(int32_t index, const std::string& key,
-                                          const std::string& text, float width,
-                                          int16_t alignment) {
+                                          const std::string& text, float width, int16_t alignment) {
   if (index < 0 || index > Count() + 1) control_failures::indexOutOfBounds();
   if (index == 0) index = Count() + 1;
   if (alignment < 0 || alignment > 2 || (index == 1 && alignment != lvwColumnLeft)) {

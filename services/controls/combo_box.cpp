@@ -35,8 +35,10 @@ void ComboBox::AddItem(const std::string& text, int32_t index) {
 void ComboBox::RemoveItem(int32_t index) {
   entry(index);
   entries_.erase(entries_.begin() + index);
-  if (listIndex_ == index) listIndex_ = -1;
-  else if (listIndex_ > index) --listIndex_;
+  if (listIndex_ == index)
+    listIndex_ = -1;
+  else if (listIndex_ > index)
+    --listIndex_;
   notify(ControlChange::Items);
 }
 

@@ -211,7 +211,8 @@ void ListView::renumber(size_t from) {
 void ListView::forget(ListItem& item) {
   if (focused_ == &item) focused_ = nullptr;
   if (!item.key_.empty()) keys_.erase(item.key_);
-  std::erase_if(rows_, [&item](const std::unique_ptr<ListItem>& row) { return row.get() == &item; });
+  std::erase_if(rows_,
+                [&item](const std::unique_ptr<ListItem>& row) { return row.get() == &item; });
   renumber();
   notify(ControlChange::Items);
 }

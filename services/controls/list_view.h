@@ -74,7 +74,9 @@ class ListView : public Control {
   // The row under the point (twips, relative to the list), or nullptr for
   // empty space. Uses the hit-test provider when one is installed.
   ListItem* HitTest(float x, float y) const;
-  void setHitTestProvider(ListItemHitTestProvider provider) { hitTestProvider_ = std::move(provider); }
+  void setHitTestProvider(ListItemHitTestProvider provider) {
+    hitTestProvider_ = std::move(provider);
+  }
   float RowHeight() const { return rowHeight_; }
   void setRowHeight(float twips) { rowHeight_ = twips; }
   float HeaderHeight() const { return headerHeight_; }

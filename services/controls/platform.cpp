@@ -80,7 +80,9 @@ void PopupMenu(MenuItem& menu, int32_t flags, std::optional<float> x, std::optio
   }
 }
 
-void installPopupMenuHandler(PopupMenuHandler handler) { state().popupHandler = std::move(handler); }
+void installPopupMenuHandler(PopupMenuHandler handler) {
+  state().popupHandler = std::move(handler);
+}
 const std::vector<PopupRequest>& popupRequests() { return state().popups; }
 
 int64_t newWindowHandle() { return state().nextHandle += 4; }

@@ -52,8 +52,8 @@ struct PopupRequest {
   std::optional<float> y;
 };
 
-using PopupMenuHandler =
-    std::function<void(MenuItem& menu, int32_t flags, std::optional<float> x, std::optional<float> y)>;
+using PopupMenuHandler = std::function<void(MenuItem& menu, int32_t flags, std::optional<float> x,
+                                            std::optional<float> y)>;
 
 // This thread's screen.
 Screen& screen();

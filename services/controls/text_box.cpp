@@ -21,9 +21,12 @@ const std::string& TextBox::typeText(const std::string& typed) {
     // One character: a single byte, or the bytes of a multi-byte character.
     size_t length = 1;
     unsigned char lead = static_cast<unsigned char>(typed[i]);
-    if (lead >= 0xF0) length = 4;
-    else if (lead >= 0xE0) length = 3;
-    else if (lead >= 0xC0) length = 2;
+    if (lead >= 0xF0)
+      length = 4;
+    else if (lead >= 0xE0)
+      length = 3;
+    else if (lead >= 0xC0)
+      length = 2;
     std::string character = typed.substr(i, length);
     i += length;
     if (length == 1) {

@@ -77,7 +77,8 @@ class Node {
  private:
   friend class TreeView;
   friend class NodeCollection;
-  Node(TreeView& tree, std::string key, std::string text) : tree_(&tree), key_(std::move(key)), text_(std::move(text)) {}
+  Node(TreeView& tree, std::string key, std::string text)
+      : tree_(&tree), key_(std::move(key)), text_(std::move(text)) {}
 
   // The list this node stands in: its parent's children or the top level.
   const std::vector<Node*>& siblings() const;

@@ -31,7 +31,8 @@ std::vector<Node*> TreeView::visibleNodes() const {
     Node* node = pending.back();
     pending.pop_back();
     rows.push_back(node);
-    if (node->expanded_) pending.insert(pending.end(), node->children_.rbegin(), node->children_.rend());
+    if (node->expanded_)
+      pending.insert(pending.end(), node->children_.rbegin(), node->children_.rend());
   }
   return rows;
 }
@@ -74,8 +75,10 @@ void TreeView::userClickNode(Node& node) {
 void TreeView::placeNode(Node& node, Node* relative, int32_t relationship) {
   if (!relative) {
     node.parent_ = nullptr;
-    if (relationship == tvwFirst) roots_.insert(roots_.begin(), &node);
-    else roots_.push_back(&node);
+    if (relationship == tvwFirst)
+      roots_.insert(roots_.begin(), &node);
+    else
+      roots_.push_back(&node);
     return;
   }
   if (relationship == tvwChild) {
@@ -87,10 +90,18 @@ void TreeView::placeNode(Node& node, Node* relative, int32_t relationship) {
   auto& list = relative->parent_ ? relative->parent_->children_ : roots_;
   auto at = std::find(list.begin(), list.end(), relative);
   switch (relationship) {
-    case tvwFirst: list.insert(list.begin(), &node); break;
-    case tvwLast: list.push_back(&node); break;
-    case tvwNext: list.insert(at + 1, &node); break;
-    default: list.insert(at, &node); break;  // tvwPrevious
+    case tvwFirst:
+      list.insert(list.begin(), &node);
+      break;
+    case tvwLast:
+      list.push_back(&node);
+      break;
+    case tvwNext:
+      list.insert(at + 1, &node);
+      break;
+    default:
+      list.insert(at, &node);
+      break;  // tvwPrevious
   }
 }
 
@@ -100,9 +111,7 @@ void TreeView::unlink(Node& node) {
   node.parent_ = nullptr;
 }
 
-void TreeView::renumber() {
-  collection_support::numberFromOne(all_, &Node::index_);
-}
+void TreeView::renumber() { collection_support::numberFromOne(all_, &Node::index_); }
 
 void TreeView::removeSubtree(Node& node) {
   unlink(node);

@@ -11,7 +11,8 @@ namespace qb {
 
 class ConsoleMessageObject : public MessageObject {
  public:
-  explicit ConsoleMessageObject(std::ostream& out, int32_t answer = 1) : out_(out), answer_(answer) {}
+  explicit ConsoleMessageObject(std::ostream& out, int32_t answer = 1)
+      : out_(out), answer_(answer) {}
 
   void showMessage(const std::string& text, int16_t, OwnerForm*) override { out_ << text << "\n"; }
   void askMessage(const std::string& text, int16_t, OwnerForm*, int32_t& result) override {

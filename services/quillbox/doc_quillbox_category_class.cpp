@@ -10,8 +10,10 @@ namespace qb {
 using namespace quillboxLibrary;
 
 namespace {
-constexpr const char* kSelectCategory = "SELECT DocCategories.* FROM DocCategories WHERE DocCategoryID = ";
-constexpr const char* kSelectCategoryDocuments = "SELECT Documents.* FROM Documents WHERE DocCategoryNum = ";
+constexpr const char* kSelectCategory =
+    "SELECT DocCategories.* FROM DocCategories WHERE DocCategoryID = ";
+constexpr const char* kSelectCategoryDocuments =
+    "SELECT Documents.* FROM Documents WHERE DocCategoryNum = ";
 }  // namespace
 
 void docQuillboxCategoryClass::readRow(DatabaseReference& db, RecordsetHandle handle) {
@@ -96,10 +98,10 @@ void docQuillboxCategoryClass::saveCategory() {
     }
     Recordset rs(db, keyedSql(kSelectCategory, categoryID_), adLockOptimistic);
     if (!rs.moveFirst())
-      throw RuntimeError(err::kNoCurrentRecord,
-                         "There is no document category " + std::to_string(categoryID_) +
-                             " to save.",
-                         "docQuillboxCategoryClass");
+      throw RuntimeError(
+          err::kNoCurrentRecord,
+          "There is no document category " + std::to_string(categoryID_) + " to save.",
+          "docQuillboxCategoryClass");
     writeFields([&](const char* field, const std::string& value) { rs.update(field, value); });
     rs.close();
   });

@@ -39,7 +39,9 @@ class docQuillboxCategoryClass {
   const std::string& synchFolder() const { return synchFolder_; }
   void setSynchFolder(std::string value) { synchFolder_ = std::move(value); }
   // True for special types 2 and 3.
-  bool holdsMergeDocuments() const { return categorySpecialType_ == 2 || categorySpecialType_ == 3; }
+  bool holdsMergeDocuments() const {
+    return categorySpecialType_ == 2 || categorySpecialType_ == 3;
+  }
   // See the special types above; 0 until a row was loaded.
   int32_t categorySpecialType() const { return categorySpecialType_; }
 

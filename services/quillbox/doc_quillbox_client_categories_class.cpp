@@ -40,11 +40,11 @@ void DocQuillboxClientCategoriesClass::populateCategories() {
     std::vector<Node*> nodes;  // by place in the arranged list
     for (const PlacedCategory& placed : arrangeCategories(rows)) {
       const CategoryRow& row = placed.row;
-      Node& node = placed.parentPlace < 0
-                       ? tree_->Nodes().Add(nullptr, tvwLast, row.key(), row.name, "OneClosed",
-                                            "OneOpened")
-                       : tree_->Nodes().Add(nodes[placed.parentPlace], tvwChild, row.key(),
-                                            row.name, "OneClosed", "OneOpened");
+      Node& node =
+          placed.parentPlace < 0
+              ? tree_->Nodes().Add(nullptr, tvwLast, row.key(), row.name, "OneClosed", "OneOpened")
+              : tree_->Nodes().Add(nodes[placed.parentPlace], tvwChild, row.key(), row.name,
+                                   "OneClosed", "OneOpened");
       node.setTag(row.key());
       if (placed.depth == 0) node.setExpanded(true);
       nodes.push_back(&node);

@@ -78,11 +78,12 @@ void docQuillboxDocumentClass::addDocument(std::string& path, int32_t& category)
     // The link belongs to the client whose category it goes into.
     int32_t company = -1, contact = -1;
     {
-      Recordset owner(db,
-                      keyedSql("SELECT DocCategories.DocCategoryID, DocCategories.CompanyIDNum, "
-                               "DocCategories.ContactIDNum FROM DocCategories WHERE DocCategoryID = ",
-                               category),
-                      adLockReadOnly);
+      Recordset owner(
+          db,
+          keyedSql("SELECT DocCategories.DocCategoryID, DocCategories.CompanyIDNum, "
+                   "DocCategories.ContactIDNum FROM DocCategories WHERE DocCategoryID = ",
+                   category),
+          adLockReadOnly);
       if (!owner.moveFirst())
         throw RuntimeError(err::kNoCurrentRecord,
                            "There is no document category " + std::to_string(category) +
@@ -154,8 +155,7 @@ void docQuillboxDocumentClass::deleteDocument(int32_t& id, bool& result) {
   proc.step([&] {
     DatabaseReference& db = database();
     if (!db.isConnected()) return;
-    Recordset rs(db,
-                 keyedSql("SELECT Documents.DocumentID FROM Documents WHERE DocumentID = ", id),
+    Recordset rs(db, keyedSql("SELECT Documents.DocumentID FROM Documents WHERE DocumentID = ", id),
                  adLockOptimistic);
     if (!rs.moveFirst()) return;
     result = db.deleteRecord(rs.handle());

@@ -6,7 +6,8 @@
 // Columns of the row: DocIconName holds the display name (the name shown
 // under the document's icon, which the find dialog searches as the display
 // name), DocName the file's name without folder and extension, DocFileName
-// the file's name with its extension, DocPath the full path; CompanyIDNum or ContactIDNum the client (the other Null).
+// the file's name with its extension, DocPath the full path; CompanyIDNum or ContactIDNum the
+// client (the other Null).
 //
 // Icons: a document always has both pictures once loaded or added, icons of
 // the desktop's theme by the file's extension ("application-pdf",

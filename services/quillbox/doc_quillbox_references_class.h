@@ -32,9 +32,7 @@ class docQuillboxReferencesClass {
   // The objects kept; null for one never given.
   const std::shared_ptr<ErrorObject>& errorClass() const { return errorClass_; }
   const std::shared_ptr<MessageObject>& msgboxClass() const { return msgboxClass_; }
-  const std::shared_ptr<DatabaseReference>& databaseReference() const {
-    return databaseReference_;
-  }
+  const std::shared_ptr<DatabaseReference>& databaseReference() const { return databaseReference_; }
   const std::shared_ptr<WorkingFolderReference>& workingFolderReference() const {
     return workingFolderReference_;
   }

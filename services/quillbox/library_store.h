@@ -55,7 +55,9 @@ class Recordset {
   void update(const char* field, const std::string& value) {
     db_.updateFieldValue(handle_, field, value, false, false);
   }
-  void set(const char* field, const std::string& value) { db_.setFieldValue(handle_, field, value); }
+  void set(const char* field, const std::string& value) {
+    db_.setFieldValue(handle_, field, value);
+  }
   // Closes now; the destructor then does nothing.
   void close();
 

@@ -14,7 +14,9 @@ namespace qb {
 namespace {
 
 [[noreturn]] void typeMismatch() { throw RuntimeError(err::kTypeMismatch, "Type mismatch"); }
-[[noreturn]] void invalidUseOfNull() { throw RuntimeError(err::kInvalidUseOfNull, "Invalid use of Null"); }
+[[noreturn]] void invalidUseOfNull() {
+  throw RuntimeError(err::kInvalidUseOfNull, "Invalid use of Null");
+}
 [[noreturn]] void overflow() { throw RuntimeError(err::kOverflow, "Overflow"); }
 
 // What a text reads as: a number, no number at all, or a number too large
@@ -39,8 +41,10 @@ Reading readRadix(const std::string& text, double& out) {
     value = value * base + digit;
     if (value > 0xFFFFFFFFull) return Reading::TooLarge;
   }
-  if (value <= 0xFFFF) out = static_cast<int16_t>(static_cast<uint16_t>(value));
-  else out = static_cast<int32_t>(static_cast<uint32_t>(value));
+  if (value <= 0xFFFF)
+    out = static_cast<int16_t>(static_cast<uint16_t>(value));
+  else
+    out = static_cast<int32_t>(static_cast<uint32_t>(value));
   return Reading::Number;
 }
 
@@ -90,7 +94,8 @@ Reading readNumber(const std::string& raw, double& out) {
   // from_chars reads with "." whatever the process locale says.
   size_t from = cleaned[0] == '+' ? 1 : 0;
   double value = 0;
-  std::errc error = std::from_chars(cleaned.data() + from, cleaned.data() + cleaned.size(), value).ec;
+  std::errc error =
+      std::from_chars(cleaned.data() + from, cleaned.data() + cleaned.size(), value).ec;
   if (error == std::errc::result_out_of_range) {
     if (cleaned.find("e-") == std::string::npos) return Reading::TooLarge;
     value = 0;  // too small to tell from zero
@@ -110,14 +115,20 @@ double numberFromText(const std::string& text) {
 // The value of a number type, Boolean (True is -1), Date or numeric text.
 double numberOf(const Variant& value) {
   switch (value.type()) {
-    case VarType::Empty: return 0;
-    case VarType::Null: invalidUseOfNull();
-    case VarType::Boolean: return value.rawBool() ? -1 : 0;
+    case VarType::Empty:
+      return 0;
+    case VarType::Null:
+      invalidUseOfNull();
+    case VarType::Boolean:
+      return value.rawBool() ? -1 : 0;
     case VarType::Integer:
-    case VarType::Long: return value.rawInt();
+    case VarType::Long:
+      return value.rawInt();
     case VarType::Double:
-    case VarType::Date: return value.rawDouble();
-    case VarType::String: return numberFromText(value.rawString());
+    case VarType::Date:
+      return value.rawDouble();
+    case VarType::String:
+      return numberFromText(value.rawString());
   }
   typeMismatch();
 }
@@ -148,13 +159,15 @@ bool IsNumeric(const Variant& value) {
     case VarType::Boolean:
     case VarType::Integer:
     case VarType::Long:
-    case VarType::Double: return true;
+    case VarType::Double:
+      return true;
     case VarType::String: {
       double ignored = 0;
       return parseNumber(value.rawString(), ignored);
     }
     case VarType::Null:
-    case VarType::Date: return false;
+    case VarType::Date:
+      return false;
   }
   return false;
 }
@@ -165,14 +178,16 @@ bool isBlankValue(const Variant& value) {
 
 bool CBool(const Variant& value) {
   switch (value.type()) {
-    case VarType::Boolean: return value.rawBool();
+    case VarType::Boolean:
+      return value.rawBool();
     case VarType::String: {
       std::string text = Trim(value.rawString());
       if (equalsText(text, "True")) return true;
       if (equalsText(text, "False")) return false;
       return numberFromText(text) != 0;
     }
-    default: return numberOf(value) != 0;
+    default:
+      return numberOf(value) != 0;
   }
 }
 
@@ -212,7 +227,8 @@ std::string numberToText(double value) {
   // 15 significant digits, the exponent form as "1E+16" and "1E-05"; written
   // with "." whatever the process locale says.
   char buffer[64];
-  auto end = std::to_chars(buffer, buffer + sizeof buffer, value, std::chars_format::general, 15).ptr;
+  auto end =
+      std::to_chars(buffer, buffer + sizeof buffer, value, std::chars_format::general, 15).ptr;
   std::string text(buffer, end);
   size_t e = text.find('e');
   if (e != std::string::npos) text[e] = 'E';
@@ -221,14 +237,21 @@ std::string numberToText(double value) {
 
 std::string CStr(const Variant& value) {
   switch (value.type()) {
-    case VarType::Empty: return "";
-    case VarType::Null: invalidUseOfNull();
-    case VarType::Boolean: return value.rawBool() ? "True" : "False";
+    case VarType::Empty:
+      return "";
+    case VarType::Null:
+      invalidUseOfNull();
+    case VarType::Boolean:
+      return value.rawBool() ? "True" : "False";
     case VarType::Integer:
-    case VarType::Long: return std::to_string(value.rawInt());
-    case VarType::Double: return numberToText(value.rawDouble());
-    case VarType::String: return value.rawString();
-    case VarType::Date: return dateToText(value.rawDouble());
+    case VarType::Long:
+      return std::to_string(value.rawInt());
+    case VarType::Double:
+      return numberToText(value.rawDouble());
+    case VarType::String:
+      return value.rawString();
+    case VarType::Date:
+      return dateToText(value.rawDouble());
   }
   return "";
 }
@@ -245,7 +268,8 @@ double Round(double value, int decimals) {
   // is stored a hair below its half and gives 2.67.
   char buffer[400];
   auto end = std::to_chars(buffer, buffer + sizeof buffer, value, std::chars_format::fixed,
-                           decimals > 300 ? 300 : decimals).ptr;
+                           decimals > 300 ? 300 : decimals)
+                 .ptr;
   double rounded = 0;
   std::from_chars(buffer, end, rounded);
   return rounded;

@@ -38,8 +38,9 @@ void civilFromDays(long long z, int& y, int& m, int& d) {
 // 1899-12-30, day 0 of the serials, counted from 1970-01-01.
 const long long kEpochOffset = daysFromCivil(1899, 12, 30);
 
-const char* const kMonths[] = {"january", "february", "march",     "april",   "may",      "june",
-                               "july",    "august",   "september", "october", "november", "december"};
+const char* const kMonths[] = {"january",   "february", "march",    "april",
+                               "may",       "june",     "july",     "august",
+                               "september", "october",  "november", "december"};
 
 // A month name or its abbreviation of three letters or more ("Nov", "Sept");
 // 0 when the word is none.
@@ -158,12 +159,13 @@ bool readDatePart(DateScanner& in, int& y, int& m, int& d) {
   if (!in.number(first, 4, &digits)) return false;
   if (digits == 4) {
     y = first;
-    return in.separator("-/", &sep) && in.number(m, 2) && in.separator(std::string(1, sep).c_str()) &&
-           in.number(d, 2);
+    return in.separator("-/", &sep) && in.number(m, 2) &&
+           in.separator(std::string(1, sep).c_str()) && in.number(d, 2);
   }
   d = first;
   bool named = in.peek().kind == DateScanner::Kind::Word ||
-               (in.peek().kind == DateScanner::Kind::Separator && in.peek(1).kind == DateScanner::Kind::Word);
+               (in.peek().kind == DateScanner::Kind::Separator &&
+                in.peek(1).kind == DateScanner::Kind::Word);
   if (named) {
     in.separator(" -");
     return in.month(m) && (in.separator(" -"), year());
@@ -187,9 +189,12 @@ bool readTimePart(DateScanner& in, double& fraction) {
   int meridiem = 0;  // 1 am, 2 pm
   if (in.peek().kind == DateScanner::Kind::Word) {
     std::string word = LCase(in.peek().text);
-    if (word == "am" || word == "a") meridiem = 1;
-    else if (word == "pm" || word == "p") meridiem = 2;
-    else return false;
+    if (word == "am" || word == "a")
+      meridiem = 1;
+    else if (word == "pm" || word == "p")
+      meridiem = 2;
+    else
+      return false;
     in.skip();
   }
   if (!in.atEnd() || (!colon && meridiem == 0)) return false;

@@ -20,7 +20,7 @@ namespace {
 // ---- names from the machine's locale ------------------------------------
 
 std::string monthName(int month, bool full) {
-  static const nl_item kFull[] = {MON_1, MON_2, MON_3, MON_4, MON_5, MON_6,
+  static const nl_item kFull[] = {MON_1, MON_2, MON_3, MON_4,  MON_5,  MON_6,
                                   MON_7, MON_8, MON_9, MON_10, MON_11, MON_12};
   static const nl_item kShort[] = {ABMON_1, ABMON_2, ABMON_3, ABMON_4,  ABMON_5,  ABMON_6,
                                    ABMON_7, ABMON_8, ABMON_9, ABMON_10, ABMON_11, ABMON_12};
@@ -40,7 +40,19 @@ std::string twoDigits(int value) {
 
 // ---- date patterns -------------------------------------------------------
 
-enum class Tok { Literal, Day, Month, MonthOrMinute, Year, Hour, Minute, Second, AmPm, Quarter, Week };
+enum class Tok {
+  Literal,
+  Day,
+  Month,
+  MonthOrMinute,
+  Year,
+  Hour,
+  Minute,
+  Second,
+  AmPm,
+  Quarter,
+  Week
+};
 
 bool isDateLetter(char c) {
   char lower = static_cast<char>(c | 0x20);
@@ -50,8 +62,8 @@ bool isDateLetter(char c) {
 
 struct Token {
   Tok kind;
-  int count = 0;      // letters in the run (d, dd, ddd, ...)
-  std::string text;   // literal text, or the am/pm pattern as written
+  int count = 0;     // letters in the run (d, dd, ddd, ...)
+  std::string text;  // literal text, or the am/pm pattern as written
 };
 
 bool startsWithText(const std::string& s, size_t at, const char* word) {
@@ -66,8 +78,10 @@ std::vector<Token> tokenizeDate(const std::string& pattern) {
   std::vector<Token> tokens;
   tokens.reserve(pattern.size());
   auto literal = [&](std::string_view text) {
-    if (!tokens.empty() && tokens.back().kind == Tok::Literal) tokens.back().text += text;
-    else tokens.push_back({Tok::Literal, 0, std::string(text)});
+    if (!tokens.empty() && tokens.back().kind == Tok::Literal)
+      tokens.back().text += text;
+    else
+      tokens.push_back({Tok::Literal, 0, std::string(text)});
   };
   const std::string_view whole(pattern);
   for (size_t i = 0; i < pattern.size();) {
@@ -91,14 +105,20 @@ std::vector<Token> tokenizeDate(const std::string& pattern) {
       size_t j = i;
       while (j < pattern.size() && (pattern[j] | 0x20) == lower) ++j;
       int count = static_cast<int>(j - i);
-      Tok kind = lower == 'd' ? Tok::Day : lower == 'm' ? (count <= 2 ? Tok::MonthOrMinute : Tok::Month)
-               : lower == 'y' ? Tok::Year : lower == 'h' ? Tok::Hour : lower == 'n' ? Tok::Minute
-               : lower == 's' ? Tok::Second : lower == 'q' ? Tok::Quarter : Tok::Week;
+      Tok kind = lower == 'd'   ? Tok::Day
+                 : lower == 'm' ? (count <= 2 ? Tok::MonthOrMinute : Tok::Month)
+                 : lower == 'y' ? Tok::Year
+                 : lower == 'h' ? Tok::Hour
+                 : lower == 'n' ? Tok::Minute
+                 : lower == 's' ? Tok::Second
+                 : lower == 'q' ? Tok::Quarter
+                                : Tok::Week;
       tokens.push_back({kind, count, ""});
       i = j;
     } else {
       size_t length = 1;
-      while (i + length < pattern.size() && (static_cast<unsigned char>(pattern[i + length]) & 0xC0) == 0x80)
+      while (i + length < pattern.size() &&
+             (static_cast<unsigned char>(pattern[i + length]) & 0xC0) == 0x80)
         ++length;
       literal(whole.substr(i, length));
       i += length;
@@ -109,9 +129,15 @@ std::vector<Token> tokenizeDate(const std::string& pattern) {
     if (tokens[i].kind != Tok::MonthOrMinute) continue;
     Tok before = Tok::Literal, after = Tok::Literal;
     for (size_t k = i; k-- > 0;)
-      if (tokens[k].kind != Tok::Literal) { before = tokens[k].kind; break; }
+      if (tokens[k].kind != Tok::Literal) {
+        before = tokens[k].kind;
+        break;
+      }
     for (size_t k = i + 1; k < tokens.size(); ++k)
-      if (tokens[k].kind != Tok::Literal) { after = tokens[k].kind; break; }
+      if (tokens[k].kind != Tok::Literal) {
+        after = tokens[k].kind;
+        break;
+      }
     tokens[i].kind = (before == Tok::Hour || after == Tok::Second) ? Tok::Minute : Tok::Month;
   }
   return tokens;
@@ -124,7 +150,10 @@ bool isDatePattern(const std::string& pattern) {
     char c = pattern[i];
     if (c == '"') inQuote = !inQuote;
     if (inQuote) continue;
-    if (c == '\\') { ++i; continue; }
+    if (c == '\\') {
+      ++i;
+      continue;
+    }
     if (c == '#' || c == '0') return false;
     if (isDateLetter(c)) dateLetter = true;
   }
@@ -138,34 +167,53 @@ int dayOfYear(const DateParts& p) {
   return static_cast<int>(DateSerial(p.year, p.month, p.day) - DateSerial(p.year, 1, 1)) + 1;
 }
 
-std::string digitsOf(int value, int count) { return count == 1 ? std::to_string(value) : twoDigits(value); }
+std::string digitsOf(int value, int count) {
+  return count == 1 ? std::to_string(value) : twoDigits(value);
+}
 
-void appendDateToken(const Token& t, double serial, const DateParts& p, bool twelveHour, std::string& out) {
+void appendDateToken(const Token& t, double serial, const DateParts& p, bool twelveHour,
+                     std::string& out) {
   switch (t.kind) {
-    case Tok::Literal: out += t.text; break;
+    case Tok::Literal:
+      out += t.text;
+      break;
     case Tok::Day:
-      if (t.count <= 2) out += digitsOf(p.day, t.count);
-      else if (t.count <= 4) out += dayName(p.weekday, t.count == 4);
-      else out += formatDate(serial, t.count == 5 ? "m/d/yyyy" : "dddd, mmmm d, yyyy");
+      if (t.count <= 2)
+        out += digitsOf(p.day, t.count);
+      else if (t.count <= 4)
+        out += dayName(p.weekday, t.count == 4);
+      else
+        out += formatDate(serial, t.count == 5 ? "m/d/yyyy" : "dddd, mmmm d, yyyy");
       break;
     case Tok::Month:
     case Tok::MonthOrMinute:
-      if (t.count <= 2) out += digitsOf(p.month, t.count);
-      else out += monthName(p.month, t.count >= 4);
+      if (t.count <= 2)
+        out += digitsOf(p.month, t.count);
+      else
+        out += monthName(p.month, t.count >= 4);
       break;
     case Tok::Year:
-      if (t.count == 1) out += std::to_string(dayOfYear(p));
-      else if (t.count <= 3) out += twoDigits(p.year);
-      else out += std::to_string(p.year);
+      if (t.count == 1)
+        out += std::to_string(dayOfYear(p));
+      else if (t.count <= 3)
+        out += twoDigits(p.year);
+      else
+        out += std::to_string(p.year);
       break;
     case Tok::Hour: {
       int hour = twelveHour ? (p.hour % 12 == 0 ? 12 : p.hour % 12) : p.hour;
       out += digitsOf(hour, t.count);
       break;
     }
-    case Tok::Minute: out += digitsOf(p.minute, t.count); break;
-    case Tok::Second: out += digitsOf(p.second, t.count); break;
-    case Tok::Quarter: out += std::to_string((p.month - 1) / 3 + 1); break;
+    case Tok::Minute:
+      out += digitsOf(p.minute, t.count);
+      break;
+    case Tok::Second:
+      out += digitsOf(p.second, t.count);
+      break;
+    case Tok::Quarter:
+      out += std::to_string((p.month - 1) / 3 + 1);
+      break;
     case Tok::Week: {
       // "w" is the weekday (1 Sunday), "ww" the week of the year, the first
       // week being the one of 1 January.
@@ -181,8 +229,10 @@ void appendDateToken(const Token& t, double serial, const DateParts& p, bool twe
       // The marker takes the case written in the pattern: am/pm, AM/PM, a/p.
       bool pm = p.hour >= 12;
       const std::string& w = t.text;
-      if (t.count == 5) out += pm ? w.substr(3, 2) : w.substr(0, 2);
-      else out += pm ? w.substr(2, 1) : w.substr(0, 1);
+      if (t.count == 5)
+        out += pm ? w.substr(3, 2) : w.substr(0, 2);
+      else
+        out += pm ? w.substr(2, 1) : w.substr(0, 1);
       break;
     }
   }
@@ -213,8 +263,10 @@ std::vector<std::string> sections(const std::string& pattern) {
       ++i;
       continue;
     }
-    if (c == ';' && !inQuote) result.emplace_back();
-    else result.back() += c;
+    if (c == ';' && !inQuote)
+      result.emplace_back();
+    else
+      result.back() += c;
   }
   return result;
 }
@@ -274,13 +326,15 @@ std::string formatNumberSection(double value, const std::string& section) {
   auto end = std::to_chars(text, text + sizeof text, scaled, std::chars_format::general, 15).ptr;
   double settled = 0;
   std::from_chars(text, end, settled);
-  end = std::to_chars(text, text + sizeof text, std::round(settled), std::chars_format::fixed, 0).ptr;
+  end =
+      std::to_chars(text, text + sizeof text, std::round(settled), std::chars_format::fixed, 0).ptr;
   std::string digits(text, end);
   if (static_cast<int>(digits.size()) <= maxDecimals)
     digits.insert(0, static_cast<size_t>(maxDecimals) - digits.size() + 1, '0');
   std::string whole = digits.substr(0, digits.size() - maxDecimals);
   std::string fraction = digits.substr(digits.size() - maxDecimals);
-  while (static_cast<int>(fraction.size()) > minDecimals && !fraction.empty() && fraction.back() == '0')
+  while (static_cast<int>(fraction.size()) > minDecimals && !fraction.empty() &&
+         fraction.back() == '0')
     fraction.pop_back();
   // Leading zeros of the whole part only as far as the pattern asks.
   size_t nonZero = whole.find_first_not_of('0');
@@ -297,15 +351,19 @@ std::string formatNumberSection(double value, const std::string& section) {
     whole = grouped;
   }
   std::string number = whole;
-  if (point != std::string::npos && (!fraction.empty() || minDecimals > 0)) number += "." + fraction;
-  else if (point != std::string::npos && maxDecimals == 0) number += ".";
+  if (point != std::string::npos && (!fraction.empty() || minDecimals > 0))
+    number += "." + fraction;
+  else if (point != std::string::npos && maxDecimals == 0)
+    number += ".";
   return prefix + number + suffix;
 }
 
 std::string formatNumber(double value, const std::string& pattern) {
   std::vector<std::string> parts = sections(pattern);
-  if (value < 0 && parts.size() >= 2 && !parts[1].empty()) return formatNumberSection(value, parts[1]);
-  if (value == 0 && parts.size() >= 3 && !parts[2].empty()) return formatNumberSection(value, parts[2]);
+  if (value < 0 && parts.size() >= 2 && !parts[1].empty())
+    return formatNumberSection(value, parts[1]);
+  if (value == 0 && parts.size() >= 3 && !parts[2].empty())
+    return formatNumberSection(value, parts[2]);
   std::string text = formatNumberSection(value, parts[0]);
   return value < 0 ? "-" + text : text;
 }

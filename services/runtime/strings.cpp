@@ -201,19 +201,23 @@ int32_t InStr(int32_t start, const std::string& text, const std::string& find, C
   size_t lo = 0, hi = at.size() - 1;
   while (lo < hi) {
     size_t mid = (lo + hi) / 2;
-    if (at[mid] < found) lo = mid + 1; else hi = mid;
+    if (at[mid] < found)
+      lo = mid + 1;
+    else
+      hi = mid;
   }
   return static_cast<int32_t>(lo) + 1;
 }
 
-std::string Replace(const std::string& text, const std::string& find, const std::string& replacement,
-                    CompareMode mode) {
+std::string Replace(const std::string& text, const std::string& find,
+                    const std::string& replacement, CompareMode mode) {
   if (find.empty()) return text;
   std::string haystack = mode == CompareMode::Text ? fold(text) : text;
   std::string needle = mode == CompareMode::Text ? fold(find) : find;
   std::string out;
   size_t from = 0;
-  for (size_t at = haystack.find(needle); at != std::string::npos; at = haystack.find(needle, from)) {
+  for (size_t at = haystack.find(needle); at != std::string::npos;
+       at = haystack.find(needle, from)) {
     out.append(text, from, at - from);
     out += replacement;
     from = at + needle.size();

@@ -26,8 +26,16 @@ class Variant {
   Variant(std::string value) : type_(VarType::String), value_(std::move(value)) {}
   Variant(const char* value) : type_(VarType::String), value_(std::string(value)) {}
 
-  static Variant null() { Variant v; v.type_ = VarType::Null; return v; }
-  static Variant date(double serial) { Variant v(serial); v.type_ = VarType::Date; return v; }
+  static Variant null() {
+    Variant v;
+    v.type_ = VarType::Null;
+    return v;
+  }
+  static Variant date(double serial) {
+    Variant v(serial);
+    v.type_ = VarType::Date;
+    return v;
+  }
 
   VarType type() const { return type_; }
   bool isEmpty() const { return type_ == VarType::Empty; }

@@ -21,25 +21,26 @@ constexpr int32_t kBulkFileCount = 200;
 constexpr int32_t kBulkArchiveLinks = 5000;
 
 const char* const kFirstNames[] = {
-    "Hélène", "François", "Amélie", "Jean-Luc", "Geneviève", "Mathieu", "Chloé", "Olivier",
-    "Sarah", "David", "Priya", "Michael", "Emma", "Liam", "Zoë", "Noah",
-    "Isabelle", "Marc", "Fatima", "Kenji", "Aisha", "Connor", "Léa", "Gabriel"};
+    "Hélène",   "François", "Amélie", "Jean-Luc", "Geneviève", "Mathieu", "Chloé", "Olivier",
+    "Sarah",    "David",    "Priya",  "Michael",  "Emma",      "Liam",    "Zoë",   "Noah",
+    "Isabelle", "Marc",     "Fatima", "Kenji",    "Aisha",     "Connor",  "Léa",   "Gabriel"};
 const char* const kLastNames[] = {
-    "Côté", "Lefèbvre", "Tremblay", "Gagnon", "Roy", "Bouchard", "Gauthier", "Morin",
-    "Lavoie", "Fortin", "Smith", "Brown", "Wilson", "MacDonald", "Singh", "Nguyen",
-    "Chen", "Patel", "Kowalski", "O'Brien", "Bélanger", "Pelletier", "Haddad", "Dubé"};
+    "Côté",   "Lefèbvre", "Tremblay", "Gagnon",  "Roy",      "Bouchard",  "Gauthier", "Morin",
+    "Lavoie", "Fortin",   "Smith",    "Brown",   "Wilson",   "MacDonald", "Singh",    "Nguyen",
+    "Chen",   "Patel",    "Kowalski", "O'Brien", "Bélanger", "Pelletier", "Haddad",   "Dubé"};
 const char* const kNameWords[] = {
-    "Maple", "Rideau", "Laurentian", "Northern", "Prairie", "Bluewater", "Cedar", "Granite",
-    "Boréal", "Harbour", "Summit", "Riverside", "Aurora", "Château", "Pinecrest", "Glacier"};
-const char* const kTrades[] = {
-    "Bakery", "Plumbing", "Consulting", "Dental", "Outfitters", "Books", "Trucking", "Marine",
-    "Fitness", "Catering", "Landscaping", "Electric", "Pharmacy", "Design", "Motors", "Roofing"};
+    "Maple",  "Rideau",  "Laurentian", "Northern",  "Prairie", "Bluewater", "Cedar",     "Granite",
+    "Boréal", "Harbour", "Summit",     "Riverside", "Aurora",  "Château",   "Pinecrest", "Glacier"};
+const char* const kTrades[] = {"Bakery",     "Plumbing", "Consulting",  "Dental",
+                               "Outfitters", "Books",    "Trucking",    "Marine",
+                               "Fitness",    "Catering", "Landscaping", "Electric",
+                               "Pharmacy",   "Design",   "Motors",      "Roofing"};
 const char* const kSuffixes[] = {"Ltd.", "Inc.", "Corp.", "Group", "& Associates"};
-const char* const kCities[][3] = {
-    {"Ottawa", "ON", "K1P 5G4"},    {"Gatineau", "QC", "J8X 3Y9"},  {"Toronto", "ON", "M5H 2N2"},
-    {"Montréal", "QC", "H2Y 1C6"},  {"Kingston", "ON", "K7L 2Z1"},  {"Halifax", "NS", "B3J 3A5"},
-    {"Winnipeg", "MB", "R3C 4T3"},  {"Calgary", "AB", "T2P 2M5"},   {"Vancouver", "BC", "V6B 1A1"},
-    {"Regina", "SK", "S4P 3C8"}};
+const char* const kCities[][3] = {{"Ottawa", "ON", "K1P 5G4"},    {"Gatineau", "QC", "J8X 3Y9"},
+                                  {"Toronto", "ON", "M5H 2N2"},   {"Montréal", "QC", "H2Y 1C6"},
+                                  {"Kingston", "ON", "K7L 2Z1"},  {"Halifax", "NS", "B3J 3A5"},
+                                  {"Winnipeg", "MB", "R3C 4T3"},  {"Calgary", "AB", "T2P 2M5"},
+                                  {"Vancouver", "BC", "V6B 1A1"}, {"Regina", "SK", "S4P 3C8"}};
 const char* const kExtensions[] = {".pdf", ".docx", ".xlsx", ".txt", ".csv", ".odt", ".png"};
 
 template <typename T, size_t N>
@@ -87,22 +88,23 @@ FirmSummary generateFirm(const std::string& path, const std::string& filesFolder
       std::string first = pick(kFirstNames, rng);
       std::string last = pick(kLastNames, rng);
       contactNames[k] = first + " " + last;
-      out.insert("Contacts", {{"ContactID", contactIDs[k]},
-                              {"FirstName", first},
-                              {"LastName", last},
-                              {"DisplayName", contactNames[k]},
-                              {"ContactPersonalTaxDisplayType", 1},
-                              {"InheritCompanyInfo", k},
-                              {"BusinessName", name},
-                              {"BusinessJobTitle", k == 0 ? "President" : "Controller"},
-                              {"BusinessPhone_Main", phone + " x" + std::to_string(10 + k)},
-                              {"BusinessEmail", "contact" + std::to_string(contactIDs[k]) +
-                                                    "@client" + std::to_string(i) + ".example"},
-                              {"BusinessAddress", k == 0 ? std::to_string(100 + i) + " Main Street" : ""},
-                              {"BusinessCity", k == 0 ? city[0] : ""},
-                              {"BusinessProvince", k == 0 ? city[1] : ""},
-                              {"BusinessPostalCode", k == 0 ? city[2] : ""},
-                              {"BusinessCountry", "Canada"}});
+      out.insert("Contacts",
+                 {{"ContactID", contactIDs[k]},
+                  {"FirstName", first},
+                  {"LastName", last},
+                  {"DisplayName", contactNames[k]},
+                  {"ContactPersonalTaxDisplayType", 1},
+                  {"InheritCompanyInfo", k},
+                  {"BusinessName", name},
+                  {"BusinessJobTitle", k == 0 ? "President" : "Controller"},
+                  {"BusinessPhone_Main", phone + " x" + std::to_string(10 + k)},
+                  {"BusinessEmail", "contact" + std::to_string(contactIDs[k]) + "@client" +
+                                        std::to_string(i) + ".example"},
+                  {"BusinessAddress", k == 0 ? std::to_string(100 + i) + " Main Street" : ""},
+                  {"BusinessCity", k == 0 ? city[0] : ""},
+                  {"BusinessProvince", k == 0 ? city[1] : ""},
+                  {"BusinessPostalCode", k == 0 ? city[2] : ""},
+                  {"BusinessCountry", "Canada"}});
       out.insert("ContactLinks", {{"ContactIDNum", contactIDs[k]},
                                   {"CompanyNum", companyID},
                                   {"DefaultContact", k == 0 ? 1 : 0}});
@@ -110,24 +112,26 @@ FirmSummary generateFirm(const std::string& path, const std::string& filesFolder
     }
     out.insert("ContactsNotes", {{"ContactNum", contactIDs[0]},
                                  {"Notes", "Generated contact.\r\nCall before noon."}});
-    out.insert("Companies", {{"CompanyID", companyID},
-                             {"CategoryNum", sample::kCategoryCorporateClients},
-                             {"CompanyName", name},
-                             {"CorporateName", name},
-                             {"ClientID", "C" + std::to_string(10000 + i)},
-                             {"CompanyType", 1 + i % 5},
-                             {"Address", std::to_string(100 + i) + " Main Street"},
-                             {"City", city[0]},
-                             {"Province", city[1]},
-                             {"PostalCode", city[2]},
-                             {"Country", "Canada"},
-                             {"OfficeNumber", phone},
-                             {"DefaultContactName", contactNames[0]},
-                             {"DefaultContactPhoneNumber", phone + " x10"},
-                             {"DefaultContactEmail", "contact" + std::to_string(contactIDs[0]) +
-                                                         "@client" + std::to_string(i) + ".example"}});
-    out.insert("CompaniesNotes", {{"CompanyNum", companyID},
-                                  {"BusinessNotes", "Generated client " + std::to_string(i) + "."}});
+    out.insert("Companies",
+               {{"CompanyID", companyID},
+                {"CategoryNum", sample::kCategoryCorporateClients},
+                {"CompanyName", name},
+                {"CorporateName", name},
+                {"ClientID", "C" + std::to_string(10000 + i)},
+                {"CompanyType", 1 + i % 5},
+                {"Address", std::to_string(100 + i) + " Main Street"},
+                {"City", city[0]},
+                {"Province", city[1]},
+                {"PostalCode", city[2]},
+                {"Country", "Canada"},
+                {"OfficeNumber", phone},
+                {"DefaultContactName", contactNames[0]},
+                {"DefaultContactPhoneNumber", phone + " x10"},
+                {"DefaultContactEmail", "contact" + std::to_string(contactIDs[0]) + "@client" +
+                                            std::to_string(i) + ".example"}});
+    out.insert("CompaniesNotes",
+               {{"CompanyNum", companyID},
+                {"BusinessNotes", "Generated client " + std::to_string(i) + "."}});
     sample::ClientDataValues values;
     values.clientDataID = i;
     values.companyID = companyID;
@@ -162,12 +166,13 @@ FirmSummary generateFirm(const std::string& path, const std::string& filesFolder
     if (i == 1) firstMain = main;
     shelf.addCategory(owner, main, "Merge Documents", "", (folder / "Merge Documents").string(),
                       sample::kMergeFolderCategory, 1);
-    int32_t taxReturns = shelf.addCategory(owner, main, "Tax Returns", "", "",
-                                           sample::kOrdinaryCategory, 2);
+    int32_t taxReturns =
+        shelf.addCategory(owner, main, "Tax Returns", "", "", sample::kOrdinaryCategory, 2);
     int32_t holders[3] = {
         shelf.addCategory(owner, taxReturns, "2025", "", "", sample::kOrdinaryCategory, 0),
         shelf.addCategory(owner, main, "Correspondence", "", "", sample::kOrdinaryCategory, 3),
-        shelf.addCategory(owner, main, "Financial Statements", "", "", sample::kOrdinaryCategory, 4),
+        shelf.addCategory(owner, main, "Financial Statements", "", "", sample::kOrdinaryCategory,
+                          4),
     };
     for (int32_t j = 0; j < 4; ++j) {
       fs::path file = bulkFile(bulk, nextLink++ % kBulkFileCount);
@@ -181,9 +186,9 @@ FirmSummary generateFirm(const std::string& path, const std::string& filesFolder
 
   if (firstMain >= 0) {
     DocOwner owner{sample::kFirmCompanyID + 1, -1};
-    int32_t archive = shelf.addCategory(owner, firstMain, "Bulk Archive",
-                                        "Scanned archive of past years", "",
-                                        sample::kOrdinaryCategory, 9);
+    int32_t archive =
+        shelf.addCategory(owner, firstMain, "Bulk Archive", "Scanned archive of past years", "",
+                          sample::kOrdinaryCategory, 9);
     for (int32_t k = 0; k < kBulkArchiveLinks; ++k) {
       fs::path file = k % 1000 == 999 ? bulk / ("Missing Scan " + std::to_string(k) + ".pdf")
                                       : bulkFile(bulk, k % kBulkFileCount);

@@ -25,31 +25,42 @@ struct CategoryPlan {
 
 const std::vector<CategoryPlan> kCompanyCategories = {
     {"Tax Returns", "Tax Returns", -1, {}},
-    {"2024", "Tax Returns/2024", 0,
+    {"2024",
+     "Tax Returns/2024",
+     0,
      {{"T2 Corporate Return 2024.pdf", "2024 T2 Return (filed)"},
       {"Notice of Assessment 2024.pdf", "Notice of Assessment 2024"}}},
-    {"2025", "Tax Returns/2025", 0,
+    {"2025",
+     "Tax Returns/2025",
+     0,
      {{"T2 Corporate Return 2025.pdf", "2025 T2 Return"},
       {"GIFI Schedule 100 2025.csv", "GIFI Balance Sheet 2025"},
       {"Notice of Assessment 2025.pdf", "Notice of Assessment 2025"}}},
-    {"Financial Statements", "Financial Statements", -1,
+    {"Financial Statements",
+     "Financial Statements",
+     -1,
      {{"Financial Statements 2025.xlsx", "Financial Statements 2025"},
       {"Trial Balance 2025.csv", "Trial Balance"},
       {"Adjusting Entries 2025.xlsx", "Adjusting Entries"}}},
-    {"Correspondence", "Correspondence", -1,
+    {"Correspondence",
+     "Correspondence",
+     -1,
      {{"Engagement Letter 2025.docx", "Engagement Letter"},
       {"Letter - Missing Receipts.txt", "Missing receipts letter"},
       {"Meeting Notes.odt", "Meeting notes"}}},
 };
 
 const std::vector<CategoryPlan> kContactCategories = {
-    {"Personal Tax", "Personal Tax", -1,
-     {{"T1 Return 2024.pdf", "2024 T1 Return"}}},
-    {"2025", "Personal Tax/2025", 0,
+    {"Personal Tax", "Personal Tax", -1, {{"T1 Return 2024.pdf", "2024 T1 Return"}}},
+    {"2025",
+     "Personal Tax/2025",
+     0,
      {{"T1 Return 2025.pdf", "2025 T1 Return"},
       {"T4 Slips 2025.pdf", "T4 slips"},
       {"Donation Receipts.png", "Donation receipts (scan)"}}},
-    {"Correspondence", "Correspondence", -1,
+    {"Correspondence",
+     "Correspondence",
+     -1,
      {{"Tax Organizer Letter.docx", "Tax organizer letter"},
       {"Questions for 2025.txt", "Questions for 2025"},
       {"Interview Notes.odt", "Interview notes"}}},
@@ -68,8 +79,12 @@ class ClientShelf {
  public:
   ClientShelf(DocumentShelf& shelf, DocOwner owner, fs::path folder, std::string client,
               std::string contact, int32_t variety)
-      : shelf_(shelf), owner_(owner), folder_(std::move(folder)), client_(std::move(client)),
-        contact_(std::move(contact)), variety_(variety) {}
+      : shelf_(shelf),
+        owner_(owner),
+        folder_(std::move(folder)),
+        client_(std::move(client)),
+        contact_(std::move(contact)),
+        variety_(variety) {}
 
   int32_t category(int32_t parent, const std::string& name, const std::string& synchFolder,
                    DocCategoryKind kind, int32_t sortOrder) {
@@ -159,8 +174,8 @@ void contactDocuments(DocumentShelf& shelf, const fs::path& root, const SampleCo
   ClientShelf client(shelf, DocOwner{-1, contact.id}, folder, name,
                      std::string(contact.prefix) + " " + contact.last, contact.id);
   int32_t main = client.category(-1, name, folder.string(), kMainCategory, 0);
-  int32_t shortcuts = client.category(main, "Merge Document Shortcuts", "",
-                                      kMergeShortcutsCategory, 1);
+  int32_t shortcuts =
+      client.category(main, "Merge Document Shortcuts", "", kMergeShortcutsCategory, 1);
   client.fill(main, kContactCategories);
   fs::path merged = folder / "Merge Documents" / "Tax Organizer.docx";
   client.file(shortcuts, merged, "Tax organizer (merged)");

@@ -29,32 +29,32 @@ const std::vector<SampleCompany> kCompanies = {
      "480 Sussex Drive", "Ottawa", "ON", "K1N 6Z4", "Canada", "(613) 555-0178",
      "rideauoutfitters.example", -1},
     {7, "Byward Market Books", "Chloé Bouchard o/a Byward Market Books", "BYW01", 2, "Retail",
-     "55 York Street", "Ottawa", "ON", "K1N 5T1", "Canada", "(613) 555-0135",
-     "bywardbooks.example", -1},
+     "55 York Street", "Ottawa", "ON", "K1N 5T1", "Canada", "(613) 555-0135", "bywardbooks.example",
+     -1},
     {8, "Okanagan Orchard Holdings Ltd.", "Okanagan Orchard Holdings Ltd.", "OKA01", 1,
-     "Agriculture", "2210 Lakeshore Road", "Kelowna", "BC", "V1W 3K8", "Canada",
-     "(250) 555-0119", "okanaganorchard.example", -1},
+     "Agriculture", "2210 Lakeshore Road", "Kelowna", "BC", "V1W 3K8", "Canada", "(250) 555-0119",
+     "okanaganorchard.example", -1},
     {9, "Prairie Sky Trucking Ltd.", "Prairie Sky Trucking Ltd.", "PRA01", 1, "Transportation",
      "1100 Ross Avenue East", "Regina", "SK", "S4N 0R9", "Canada", "(306) 555-0144",
      "prairiesky.example", -1},
-    {10, "Bluenose Marine Services Ltd.", "Bluenose Marine Services Limited", "BLU01", 1,
-     "Marine", "1751 Lower Water Street", "Halifax", "NS", "B3J 1S5", "Canada",
-     "(902) 555-0158", "bluenosemarine.example", -1},
+    {10, "Bluenose Marine Services Ltd.", "Bluenose Marine Services Limited", "BLU01", 1, "Marine",
+     "1751 Lower Water Street", "Halifax", "NS", "B3J 1S5", "Canada", "(902) 555-0158",
+     "bluenosemarine.example", -1},
     {11, "Glebe Fitness Studio Inc.", "Glebe Fitness Studio Inc.", "GLE01", 1, "Fitness",
      "790 Bank Street, 2nd Floor", "Ottawa", "ON", "K1S 3V5", "Canada", "(613) 555-0126",
      "glebefitness.example", -1},
     {12, "Maple Leaf Bakery - Orléans", "Maple Leaf Bakery Limited", "MLB02", 1, "Food Services",
      "3065 St. Joseph Boulevard", "Orléans", "ON", "K1E 3W6", "Canada", "(613) 555-0149",
      "mapleleafbakery.example", 2},
-    {13, "Lefèbvre Consulting - Toronto", "Groupe Conseil Lefèbvre Inc.", "LEF02", 1,
-     "Consulting", "181 Bay Street, Suite 1800", "Toronto", "ON", "M5J 2T3", "Canada",
-     "(416) 555-0133", "lefebvreconsulting.example", 4},
-    {14, "Ottawa Valley Food Bank", "Ottawa Valley Community Food Bank", "OVF01", 4,
-     "Non Profit", "22 Raglan Street South", "Renfrew", "ON", "K7V 1P9", "Canada",
-     "(613) 555-0171", "ovfoodbank.example", -1},
-    {15, "Château Gris Catering Inc.", "Traiteur Château Gris Inc.", "CHA01", 1,
-     "Food Services", "160 boul. de l'Hôpital", "Gatineau", "QC", "J8T 8J1", "Canada",
-     "(819) 555-0112", "chateaugris.example", -1},
+    {13, "Lefèbvre Consulting - Toronto", "Groupe Conseil Lefèbvre Inc.", "LEF02", 1, "Consulting",
+     "181 Bay Street, Suite 1800", "Toronto", "ON", "M5J 2T3", "Canada", "(416) 555-0133",
+     "lefebvreconsulting.example", 4},
+    {14, "Ottawa Valley Food Bank", "Ottawa Valley Community Food Bank", "OVF01", 4, "Non Profit",
+     "22 Raglan Street South", "Renfrew", "ON", "K7V 1P9", "Canada", "(613) 555-0171",
+     "ovfoodbank.example", -1},
+    {15, "Château Gris Catering Inc.", "Traiteur Château Gris Inc.", "CHA01", 1, "Food Services",
+     "160 boul. de l'Hôpital", "Gatineau", "QC", "J8T 8J1", "Canada", "(819) 555-0112",
+     "chateaugris.example", -1},
     {16, "Sunrise Landscaping", "Sunrise Landscaping Partnership", "SUN01", 3, "Landscaping",
      "45 Colonnade Road", "Nepean", "ON", "K2E 7J6", "Canada", "(613) 555-0190",
      "sunriselandscaping.example", -1},
@@ -84,11 +84,9 @@ const std::vector<SampleContact> kContacts = {
     {22, "Ms.", "Fiona", "MacLeod", 10, "Controller", false, "", "", "Female", "1990-12-24"},
     {23, "Ms.", "Jessica", "Tran", 11, "Co-owner", false, "", "", "Female", "1988-06-06"},
     {24, "Mr.", "Marcus", "Bell", 11, "Co-owner", false, "", "", "Male", "1986-03-13"},
-    {25, "Mr.", "Raymond", "Giroux", 14, "Executive Director", false, "", "", "Male",
-     "1955-10-10"},
+    {25, "Mr.", "Raymond", "Giroux", 14, "Executive Director", false, "", "", "Male", "1955-10-10"},
     {26, "Ms.", "Élise", "Ng", 14, "Volunteer Coordinator", true, "", "", "Female", "1994-01-17"},
-    {27, "Mr.", "Jean-Philippe", "Dubé", 15, "Chef and Owner", false, "", "", "Male",
-     "1978-08-08"},
+    {27, "Mr.", "Jean-Philippe", "Dubé", 15, "Chef and Owner", false, "", "", "Male", "1978-08-08"},
     {28, "Mrs.", "Maude", "Dubé", 15, "Events Manager", false, "", "", "Female", "1981-05-05"},
     {29, "Mr.", "Robert", "Hayes", 17, "President", false, "", "", "Male", "1960-11-11"},
     {30, "Ms.", "Linda", "Hayes", 17, "Treasurer", true, "", "", "Female", "1962-02-02"},
@@ -104,8 +102,8 @@ const std::vector<SampleContact> kContacts = {
 // Links of contacts to companies; the first contact of each list is the
 // company's default contact, except at kCompanyWithoutDefault.
 const std::vector<std::pair<int32_t, std::vector<int32_t>>> kCompanyLinks = {
-    {2, {10, 11}}, {3, {6, 7}},   {4, {8, 9}},   {5, {12, 13}}, {6, {14, 15}},
-    {7, {16}},     {8, {17, 18}}, {9, {19, 20}}, {10, {21, 22}}, {11, {23, 24}},
+    {2, {10, 11}}, {3, {6, 7}},   {4, {8, 9}},    {5, {12, 13}},  {6, {14, 15}},
+    {7, {16}},     {8, {17, 18}}, {9, {19, 20}},  {10, {21, 22}}, {11, {23, 24}},
     {12, {10}},    {13, {8, 9}},  {14, {25, 26}}, {15, {27, 28}}, {17, {29, 30}},
 };
 
@@ -116,15 +114,18 @@ struct Relationship {
 };
 
 const Relationship kRelationships[] = {
-    {7, 6, "Spouse"},  {6, 7, "Spouse"},   {11, 10, "Son"},  {10, 11, "Mother"},
-    {15, 14, "Brother"}, {22, 21, "Daughter"}, {9, 8, "Business Partner"},
-    {28, 27, "Not Specified"},
+    {7, 6, "Spouse"},           {6, 7, "Spouse"},          {11, 10, "Son"},
+    {10, 11, "Mother"},         {15, 14, "Brother"},       {22, 21, "Daughter"},
+    {9, 8, "Business Partner"}, {28, 27, "Not Specified"},
 };
 
 const std::pair<int32_t, int32_t> kContactCategories[] = {
-    {6, kCategoryPersonalTaxClients}, {8, kCategoryPersonalTaxClients},
-    {31, kCategoryPersonalTaxClients}, {34, kCategoryPersonalTaxClients},
-    {32, kCategoryBankers},           {33, kCategoryLawyers},
+    {6, kCategoryPersonalTaxClients},
+    {8, kCategoryPersonalTaxClients},
+    {31, kCategoryPersonalTaxClients},
+    {34, kCategoryPersonalTaxClients},
+    {32, kCategoryBankers},
+    {33, kCategoryLawyers},
     {35, kCategorySuppliers},
 };
 
@@ -188,7 +189,7 @@ void writeCompanies(SampleWriter& out, FirmSummary& summary) {
   for (const SampleCompany& c : kCompanies) {
     // Branches stand under their main company, not in a category.
     bool branch = c.mainCompany >= 0;
-    int32_t category = branch ? -1
+    int32_t category = branch                                       ? -1
                        : (c.companyType == 2 || c.companyType == 4) ? kCategoryClients
                                                                     : kCategoryCorporateClients;
     std::string defaultName, defaultPhone, defaultFax, defaultEmail;
@@ -202,39 +203,42 @@ void writeCompanies(SampleWriter& out, FirmSummary& summary) {
       defaultFax = businessFaxOf(person);
       defaultEmail = emailOf(person);
     }
-    out.insert("Companies",
-               {{"CompanyID", c.id},
-                branch ? Field("CompanyNum", c.mainCompany) : Field("CompanyNum", nullptr),
-                category >= 0 ? Field("CategoryNum", category) : Field("CategoryNum", nullptr),
-                {"CompanyName", c.name},
-                {"CorporateName", c.corporateName},
-                {"ClientID", c.clientID},
-                {"CompanyType", c.companyType},
-                {"IndustryType", c.industry},
-                {"Address", c.address},
-                {"City", c.city},
-                {"Province", c.province},
-                {"PostalCode", c.postalCode},
-                {"Country", c.country},
-                {"OfficeNumber", c.phone},
-                {"FaxNumber", faxOf(c)},
-                {"Email", std::string("info@") + c.domain},
-                {"WebSite", std::string("www.") + c.domain},
-                {"PartnerName", c.id % 2 == 0 ? "Marie Tremblay" : "Daniel Okafor"},
-                {"AccountantName", c.id % 3 == 0 ? "Sophie Gagnon" : "Raj Patel"},
-                {"DefaultContactName", defaultName},
-                {"DefaultContactPhoneNumber", defaultPhone},
-                {"DefaultContactFaxNumber", defaultFax},
-                {"DefaultContactEmail", defaultEmail},
-                {"Custom1", c.id % 3 == 0 ? "December 31" : "March 31"},
-                {"Custom2", c.id % 2 == 0 ? "Banque Laurentide, branch 0042" : "Caisse du Quartier"},
-                {"Custom4", "Mon-Fri 9:00-5:00"}});
-    out.insert("CompaniesNotes",
-               {{"CompanyNum", c.id},
-                {"BusinessNotes", std::string(c.name) + " - client since the firm's early years.\r\n"
-                                  "Send the year-end package by courier."},
-                {"Notes", "Year-end checklist sent in January.\r\nBooks kept in the cloud; "
-                          "read-only access granted to the firm."}});
+    out.insert(
+        "Companies",
+        {{"CompanyID", c.id},
+         branch ? Field("CompanyNum", c.mainCompany) : Field("CompanyNum", nullptr),
+         category >= 0 ? Field("CategoryNum", category) : Field("CategoryNum", nullptr),
+         {"CompanyName", c.name},
+         {"CorporateName", c.corporateName},
+         {"ClientID", c.clientID},
+         {"CompanyType", c.companyType},
+         {"IndustryType", c.industry},
+         {"Address", c.address},
+         {"City", c.city},
+         {"Province", c.province},
+         {"PostalCode", c.postalCode},
+         {"Country", c.country},
+         {"OfficeNumber", c.phone},
+         {"FaxNumber", faxOf(c)},
+         {"Email", std::string("info@") + c.domain},
+         {"WebSite", std::string("www.") + c.domain},
+         {"PartnerName", c.id % 2 == 0 ? "Marie Tremblay" : "Daniel Okafor"},
+         {"AccountantName", c.id % 3 == 0 ? "Sophie Gagnon" : "Raj Patel"},
+         {"DefaultContactName", defaultName},
+         {"DefaultContactPhoneNumber", defaultPhone},
+         {"DefaultContactFaxNumber", defaultFax},
+         {"DefaultContactEmail", defaultEmail},
+         {"Custom1", c.id % 3 == 0 ? "December 31" : "March 31"},
+         {"Custom2", c.id % 2 == 0 ? "Banque Laurentide, branch 0042" : "Caisse du Quartier"},
+         {"Custom4", "Mon-Fri 9:00-5:00"}});
+    out.insert(
+        "CompaniesNotes",
+        {{"CompanyNum", c.id},
+         {"BusinessNotes", std::string(c.name) + " - client since the firm's early years.\r\n"
+                                                 "Send the year-end package by courier."},
+         {"Notes",
+          "Year-end checklist sent in January.\r\nBooks kept in the cloud; "
+          "read-only access granted to the firm."}});
     ++summary.companies;
   }
 }
@@ -247,59 +251,66 @@ void writeContacts(SampleWriter& out, FirmSummary& summary) {
     bool ownAddress = company != nullptr && !c.inherit;
     std::string business = company != nullptr ? company->name : c.title;
     std::string title = company != nullptr ? c.title : "";
-    out.insert("Contacts",
-               {{"ContactID", c.id},
-                {"ClientID", company == nullptr ? "P" + std::to_string(1000 + c.id) : ""},
-                {"NamePrefix", c.prefix},
-                {"FirstName", c.first},
-                {"LastName", c.last},
-                {"DisplayName", sampleDisplayName(c)},
-                {"ContactPersonalTaxDisplayType", couple ? 2 : 1},
-                {"InheritCompanyInfo", c.inherit ? 1 : 0},
-                {"SocialInsuranceNumber", "9" + std::to_string(10 + c.id) + " 555 0" +
-                                              std::to_string(10 + c.id)},
-                {"EmployeeType", company != nullptr ? "Full-Time" : ""},
-                {"PercentageOwnership", title == "Owner" || title == "President" ? "100%" : ""},
-                {"BusinessName", business},
-                {"BusinessJobTitle", title},
-                {"BusinessPhone_Main", c.inherit ? "" : phoneOf(c)},
-                {"BusinessPhone_Cell", c.id % 3 == 0 ? "(613) 555-1" + std::to_string(100 + c.id) : ""},
-                {"BusinessPhone_Fax", businessFaxOf(c)},
-                {"BusinessEmail", emailOf(c)},
-                ownAddress ? Field("BusinessAddress", company->address) : Field("BusinessAddress", nullptr),
-                ownAddress ? Field("BusinessCity", company->city) : Field("BusinessCity", nullptr),
-                ownAddress ? Field("BusinessProvince", company->province) : Field("BusinessProvince", nullptr),
-                ownAddress ? Field("BusinessPostalCode", company->postalCode) : Field("BusinessPostalCode", nullptr),
-                ownAddress ? Field("BusinessCountry", company->country) : Field("BusinessCountry", nullptr),
-                {"HomePhone_Main", "(613) 555-2" + std::to_string(100 + c.id)},
-                {"HomeAddress", std::to_string(10 + c.id * 3) + " Maple Crescent"},
-                {"HomeCity", company != nullptr ? company->city : "Ottawa"},
-                {"HomeProvince", company != nullptr ? company->province : "ON"},
-                {"HomePostalCode", company != nullptr ? company->postalCode : "K1S 2L4"},
-                {"HomeCountry", company != nullptr ? company->country : "Canada"},
-                {"Gender", c.gender},
-                {"Birthday", c.birthday},
-                {"SpokenLanguage", *c.first == 'P' || *c.first == 'H' || *c.first == 'F' ? "French" : "English"},
-                {"MaritialStatus", couple ? "Married" : "Single"},
-                text("SpouseFirstName", c.spouseFirst),
-                text("SpouseLastName", c.spouseLast),
-                couple ? Field("SpouseName", std::string(c.spouseFirst) + " " + c.spouseLast)
-                       : Field("SpouseName", nullptr),
-                // The Côtés have a second address: the cottage.
-                c.id == 6 ? Field("AltAddressName", "Chalet") : Field("AltAddressName", nullptr),
-                c.id == 6 ? Field("AltAddress", "1200 chemin du Lac-Tremblant")
-                          : Field("AltAddress", nullptr),
-                c.id == 6 ? Field("AltCity", "Mont-Tremblant") : Field("AltCity", nullptr),
-                c.id == 6 ? Field("AltProvince", "QC") : Field("AltProvince", nullptr),
-                c.id == 6 ? Field("AltPostalCode", "J8E 1T4") : Field("AltPostalCode", nullptr),
-                {"Custom1", c.id % 2 == 0 ? "Yes" : "No"},
-                {"Custom2", c.id % 4 == 0 ? "Caroline Beaulieu" : ""},
-                {"Custom4", *c.first == 'P' || *c.first == 'F' ? "Français" : "English"}});
+    out.insert(
+        "Contacts",
+        {{"ContactID", c.id},
+         {"ClientID", company == nullptr ? "P" + std::to_string(1000 + c.id) : ""},
+         {"NamePrefix", c.prefix},
+         {"FirstName", c.first},
+         {"LastName", c.last},
+         {"DisplayName", sampleDisplayName(c)},
+         {"ContactPersonalTaxDisplayType", couple ? 2 : 1},
+         {"InheritCompanyInfo", c.inherit ? 1 : 0},
+         {"SocialInsuranceNumber",
+          "9" + std::to_string(10 + c.id) + " 555 0" + std::to_string(10 + c.id)},
+         {"EmployeeType", company != nullptr ? "Full-Time" : ""},
+         {"PercentageOwnership", title == "Owner" || title == "President" ? "100%" : ""},
+         {"BusinessName", business},
+         {"BusinessJobTitle", title},
+         {"BusinessPhone_Main", c.inherit ? "" : phoneOf(c)},
+         {"BusinessPhone_Cell", c.id % 3 == 0 ? "(613) 555-1" + std::to_string(100 + c.id) : ""},
+         {"BusinessPhone_Fax", businessFaxOf(c)},
+         {"BusinessEmail", emailOf(c)},
+         ownAddress ? Field("BusinessAddress", company->address)
+                    : Field("BusinessAddress", nullptr),
+         ownAddress ? Field("BusinessCity", company->city) : Field("BusinessCity", nullptr),
+         ownAddress ? Field("BusinessProvince", company->province)
+                    : Field("BusinessProvince", nullptr),
+         ownAddress ? Field("BusinessPostalCode", company->postalCode)
+                    : Field("BusinessPostalCode", nullptr),
+         ownAddress ? Field("BusinessCountry", company->country)
+                    : Field("BusinessCountry", nullptr),
+         {"HomePhone_Main", "(613) 555-2" + std::to_string(100 + c.id)},
+         {"HomeAddress", std::to_string(10 + c.id * 3) + " Maple Crescent"},
+         {"HomeCity", company != nullptr ? company->city : "Ottawa"},
+         {"HomeProvince", company != nullptr ? company->province : "ON"},
+         {"HomePostalCode", company != nullptr ? company->postalCode : "K1S 2L4"},
+         {"HomeCountry", company != nullptr ? company->country : "Canada"},
+         {"Gender", c.gender},
+         {"Birthday", c.birthday},
+         {"SpokenLanguage",
+          *c.first == 'P' || *c.first == 'H' || *c.first == 'F' ? "French" : "English"},
+         {"MaritialStatus", couple ? "Married" : "Single"},
+         text("SpouseFirstName", c.spouseFirst),
+         text("SpouseLastName", c.spouseLast),
+         couple ? Field("SpouseName", std::string(c.spouseFirst) + " " + c.spouseLast)
+                : Field("SpouseName", nullptr),
+         // The Côtés have a second address: the cottage.
+         c.id == 6 ? Field("AltAddressName", "Chalet") : Field("AltAddressName", nullptr),
+         c.id == 6 ? Field("AltAddress", "1200 chemin du Lac-Tremblant")
+                   : Field("AltAddress", nullptr),
+         c.id == 6 ? Field("AltCity", "Mont-Tremblant") : Field("AltCity", nullptr),
+         c.id == 6 ? Field("AltProvince", "QC") : Field("AltProvince", nullptr),
+         c.id == 6 ? Field("AltPostalCode", "J8E 1T4") : Field("AltPostalCode", nullptr),
+         {"Custom1", c.id % 2 == 0 ? "Yes" : "No"},
+         {"Custom2", c.id % 4 == 0 ? "Caroline Beaulieu" : ""},
+         {"Custom4", *c.first == 'P' || *c.first == 'F' ? "Français" : "English"}});
     ++summary.contacts;
   }
   out.insert("ContactsNotes", {{"ContactNum", 6},
-                               {"Notes", "Prefers meetings in French.\r\nCottage in Mont-Tremblant "
-                                         "from June to August.\r\nSpouse signs the returns too."}});
+                               {"Notes",
+                                "Prefers meetings in French.\r\nCottage in Mont-Tremblant "
+                                "from June to August.\r\nSpouse signs the returns too."}});
   for (const SampleContact& c : kContacts) {
     if (c.id == 6) continue;
     if (c.id % 5 == 4) continue;  // some contacts have no notes row
@@ -326,9 +337,8 @@ void writeLinks(SampleWriter& out) {
                                 {"FamilyRelationship", r.relationship}});
   }
   for (const auto& [contact, category] : kContactCategories) {
-    out.insert("ContactLinks", {{"ContactIDNum", contact},
-                                {"CategoryNum", category},
-                                {"DefaultContact", 0}});
+    out.insert("ContactLinks",
+               {{"ContactIDNum", contact}, {"CategoryNum", category}, {"DefaultContact", 0}});
   }
 }
 
@@ -351,17 +361,18 @@ void writeSoftware(SampleWriter& out) {
   int32_t n = 0;
   for (const Software& s : rows) {
     ++n;
-    out.insert("SoftwareInfo",
-               {s.company >= 0 ? Field("CompanyIDNum", s.company) : Field("CompanyIDNum", nullptr),
-                s.contact >= 0 ? Field("ContactIDNum", s.contact) : Field("ContactIDNum", nullptr),
-                {"DefaultSoftware", s.isDefault ? 1 : 0},
-                {"SoftwareName", s.name},
-                {"SoftwareSerialNumber", "KQZ" + std::to_string(n) + " 7PLM XR" + std::to_string(n)},
-                {"SoftwareVersion", s.version},
-                {"SoftwareAccountNumber", "DR " + std::to_string(459680 + n)},
-                {"FileSavedAs", "\\\\RVA-SERVER01\\Clients\\Data\\client" + std::to_string(n) + ".dat"},
-                {"UserName", "rva" + std::to_string(n)},
-                {"Password", "Sample42x"}});
+    out.insert(
+        "SoftwareInfo",
+        {s.company >= 0 ? Field("CompanyIDNum", s.company) : Field("CompanyIDNum", nullptr),
+         s.contact >= 0 ? Field("ContactIDNum", s.contact) : Field("ContactIDNum", nullptr),
+         {"DefaultSoftware", s.isDefault ? 1 : 0},
+         {"SoftwareName", s.name},
+         {"SoftwareSerialNumber", "KQZ" + std::to_string(n) + " 7PLM XR" + std::to_string(n)},
+         {"SoftwareVersion", s.version},
+         {"SoftwareAccountNumber", "DR " + std::to_string(459680 + n)},
+         {"FileSavedAs", "\\\\RVA-SERVER01\\Clients\\Data\\client" + std::to_string(n) + ".dat"},
+         {"UserName", "rva" + std::to_string(n)},
+         {"Password", "Sample42x"}});
   }
 }
 

@@ -36,9 +36,9 @@ struct SampleContact {
   const char* prefix;
   const char* first;
   const char* last;
-  int32_t company;      // the company the person works for, -1 for none
-  const char* title;    // job title, or for a person without company the business
-  bool inherit;         // takes the company's address and phones
+  int32_t company;    // the company the person works for, -1 for none
+  const char* title;  // job title, or for a person without company the business
+  bool inherit;       // takes the company's address and phones
   const char* spouseFirst;
   const char* spouseLast;
   const char* gender;

@@ -58,17 +58,16 @@ int32_t DocumentShelf::addCategory(const DocOwner& owner, int32_t parent, const 
                                    const std::string& description, const std::string& synchFolder,
                                    DocCategoryKind kind, int32_t sortOrder) {
   int32_t id = nextCategoryID_++;
-  out_.insert("DocCategories",
-              {{"DocCategoryID", id},
-               ownerField("DocCategoryNum", parent),
-               ownerField("CompanyIDNum", owner.companyID),
-               ownerField("ContactIDNum", owner.contactID),
-               {"DocCategoryName", name},
-               {"DocCategoryDescription", description},
-               synchFolder.empty() ? Field("DocCategorySynchFolder", nullptr)
-                                   : Field("DocCategorySynchFolder", synchFolder),
-               {"DocCategorySpecialType", static_cast<int32_t>(kind)},
-               {"DocCategorySortOrder", sortOrder}});
+  out_.insert("DocCategories", {{"DocCategoryID", id},
+                                ownerField("DocCategoryNum", parent),
+                                ownerField("CompanyIDNum", owner.companyID),
+                                ownerField("ContactIDNum", owner.contactID),
+                                {"DocCategoryName", name},
+                                {"DocCategoryDescription", description},
+                                synchFolder.empty() ? Field("DocCategorySynchFolder", nullptr)
+                                                    : Field("DocCategorySynchFolder", synchFolder),
+                                {"DocCategorySpecialType", static_cast<int32_t>(kind)},
+                                {"DocCategorySortOrder", sortOrder}});
   ++summary_.categories;
   return id;
 }
@@ -91,8 +90,8 @@ int32_t DocumentShelf::addLink(const DocOwner& owner, int32_t category,
                {"DocPath", file.string()},
                {"DocIconName", displayName},
                {"DocHostComputerName", host.empty() ? std::string(kWorkstations[n % 4]) : host},
-               {"DocDateAdded", isoDateTime(2025, 1 + (day / 28) % 12, 1 + day % 28,
-                                            8 + n % 9, (n * 7) % 60)},
+               {"DocDateAdded",
+                isoDateTime(2025, 1 + (day / 28) % 12, 1 + day % 28, 8 + n % 9, (n * 7) % 60)},
                {"DocAddedByUserIDNum", 1 + n % kEmployeeCount}});
   ++summary_.documents;
   return id;

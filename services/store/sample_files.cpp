@@ -2,8 +2,8 @@
 
 #include <array>
 #include <cctype>
-#include <cstdio>
 #include <cstdint>
+#include <cstdio>
 #include <fstream>
 #include <stdexcept>
 
@@ -93,11 +93,20 @@ std::string xmlEscape(const std::string& text) {
   std::string out;
   for (char c : text) {
     switch (c) {
-      case '&': out += "&amp;"; break;
-      case '<': out += "&lt;"; break;
-      case '>': out += "&gt;"; break;
-      case '"': out += "&quot;"; break;
-      default: out += c;
+      case '&':
+        out += "&amp;";
+        break;
+      case '<':
+        out += "&lt;";
+        break;
+      case '>':
+        out += "&gt;";
+        break;
+      case '"':
+        out += "&quot;";
+        break;
+      default:
+        out += c;
     }
   }
   return out;
@@ -123,7 +132,8 @@ std::string relationships(const std::string& type, const std::string& target) {
 }
 
 std::string docx(const std::string& title, const std::vector<std::string>& lines) {
-  std::string body = "<w:p><w:r><w:rPr><w:b/></w:rPr><w:t>" + xmlEscape(title) + "</w:t></w:r></w:p>";
+  std::string body =
+      "<w:p><w:r><w:rPr><w:b/></w:rPr><w:t>" + xmlEscape(title) + "</w:t></w:r></w:p>";
   for (const std::string& line : lines) {
     body += "<w:p><w:r><w:t xml:space=\"preserve\">" + xmlEscape(line) + "</w:t></w:r></w:p>";
   }
@@ -174,8 +184,8 @@ std::string xlsx(const std::vector<std::string>& lines) {
       if (isNumber(cells[c])) {
         rows += "<c r=\"" + ref + "\"><v>" + cells[c] + "</v></c>";
       } else {
-        rows += "<c r=\"" + ref + "\" t=\"inlineStr\"><is><t>" + xmlEscape(cells[c]) +
-                "</t></is></c>";
+        rows +=
+            "<c r=\"" + ref + "\" t=\"inlineStr\"><is><t>" + xmlEscape(cells[c]) + "</t></is></c>";
       }
     }
     rows += "</row>";
@@ -188,8 +198,8 @@ std::string xlsx(const std::vector<std::string>& lines) {
                     "<Override PartName=\"/xl/worksheets/sheet1.xml\" ContentType=\"application/"
                     "vnd.openxmlformats-officedocument.spreadsheetml.worksheet+xml\"/>")},
       {"_rels/.rels", relationships("officeDocument", "xl/workbook.xml")},
-      {"xl/workbook.xml", std::string(kXmlHead) + "<workbook xmlns=\"" + main +
-                              "\" xmlns:r=\"" + kOfficeRels +
+      {"xl/workbook.xml", std::string(kXmlHead) + "<workbook xmlns=\"" + main + "\" xmlns:r=\"" +
+                              kOfficeRels +
                               "\"><sheets><sheet name=\"Sheet1\" sheetId=\"1\" "
                               "r:id=\"rId1\"/></sheets></workbook>"},
       {"xl/_rels/workbook.xml.rels", relationships("worksheet", "worksheets/sheet1.xml")},

@@ -14,12 +14,12 @@ namespace qb {
 
 // What a fill made, for the tool to report.
 struct FirmSummary {
-  int32_t companies = 0;   // client companies, branches included
-  int32_t contacts = 0;    // contacts, the firm's employees included
-  int32_t categories = 0;  // document categories
-  int32_t documents = 0;   // document links
-  int32_t files = 0;       // real files written
-  std::string filesFolder; // where the files are, as an absolute path
+  int32_t companies = 0;    // client companies, branches included
+  int32_t contacts = 0;     // contacts, the firm's employees included
+  int32_t categories = 0;   // document categories
+  int32_t documents = 0;    // document links
+  int32_t files = 0;        // real files written
+  std::string filesFolder;  // where the files are, as an absolute path
 };
 
 // Creates a database file holding the whole schema and no rows, with the

@@ -37,9 +37,14 @@ std::string columnLayoutXml() {
     int alignment;
   };
   const std::vector<Column> columns = {
-      {"Name", 2600, 0},         {"Size", 1000, 1},         {"Date Modified", 2000, 0},
-      {"Path", 5200, 0},         {"Host Computer Name", 1400, 0}, {"Date Created", 2000, 0},
-      {"Date Last Accessed", 2000, 0}, {"File Added By", 1200, 0},
+      {"Name", 2600, 0},
+      {"Size", 1000, 1},
+      {"Date Modified", 2000, 0},
+      {"Path", 5200, 0},
+      {"Host Computer Name", 1400, 0},
+      {"Date Created", 2000, 0},
+      {"Date Last Accessed", 2000, 0},
+      {"File Added By", 1200, 0},
   };
   std::string xml = "<Columns>";
   int left = 0;
@@ -47,9 +52,9 @@ std::string columnLayoutXml() {
     std::string index = std::to_string(i + 1);
     xml += "<column><Alignment>" + std::to_string(columns[i].alignment) + "</Alignment><Index>" +
            index + "</Index><Key></Key><Left>" + std::to_string(left) + "</Left><Position>" +
-           index + "</Position><SubItemIndex>" + std::to_string(i) + "</SubItemIndex><Tag></Tag><Text>" +
-           columns[i].text + "</Text><Width>" + std::to_string(columns[i].width) +
-           "</Width></column>";
+           index + "</Position><SubItemIndex>" + std::to_string(i) +
+           "</SubItemIndex><Tag></Tag><Text>" + columns[i].text + "</Text><Width>" +
+           std::to_string(columns[i].width) + "</Width></column>";
     left += columns[i].width;
   }
   return xml + "</Columns>";
@@ -89,12 +94,13 @@ void writeFirm(SampleWriter& out) {
       {"WebSite", "www.rideauvalleyaccounting.example"},
   };
   std::vector<Field> company = particulars;
-  company.insert(company.end(), {{"CategoryNum", kCategoryAddressBook},
-                                 {"ClientID", "FIRM"},
-                                 {"DefaultContactName", "Marie Tremblay"},
-                                 {"DefaultContactPhoneNumber", "(613) 555-0100 x101"},
-                                 {"DefaultContactFaxNumber", kFirmFax},
-                                 {"DefaultContactEmail", "mtremblay@rideauvalleyaccounting.example"}});
+  company.insert(company.end(),
+                 {{"CategoryNum", kCategoryAddressBook},
+                  {"ClientID", "FIRM"},
+                  {"DefaultContactName", "Marie Tremblay"},
+                  {"DefaultContactPhoneNumber", "(613) 555-0100 x101"},
+                  {"DefaultContactFaxNumber", kFirmFax},
+                  {"DefaultContactEmail", "mtremblay@rideauvalleyaccounting.example"}});
   out.insert("Companies", company);
   out.insert("CompaniesNotes", {{"CompanyNum", kFirmCompanyID},
                                 {"BusinessNotes", "Our own firm.\r\nOffice hours 8:30 to 5:00."}});
@@ -129,32 +135,32 @@ void writeFirm(SampleWriter& out) {
                             {"BusinessProvince", e.inherit ? "" : "ON"},
                             {"BusinessPostalCode", e.inherit ? "" : "K2P 1L5"},
                             {"BusinessCountry", "Canada"}});
-    out.insert("AccountantEmployeeInfo",
-               {{"ContactID", id},
-                {"UserName", e.userName},
-                {"FirstName", e.first},
-                {"LastName", e.last},
-                {"DisplayName", display},
-                {"InheritCompanyInfo", e.inherit ? 1 : 0},
-                {"EmployeeType", n == 4 ? "Part-Time" : "Full-Time"},
-                {"BusinessName", kFirmName},
-                {"BusinessJobTitle", e.title},
-                {"BusinessDepartment", n < 4 ? "Assurance and Tax" : "Administration"},
-                {"BusinessOffice", std::string("Office ") + e.extension},
-                {"BusinessPhone_Main", phone},
-                {"BusinessPhone_Fax", kFirmFax},
-                {"BusinessEmail", email},
-                {"BusinessAddress", address},
-                {"BusinessCity", e.inherit ? "" : "Ottawa"},
-                {"BusinessProvince", e.inherit ? "" : "ON"},
-                {"BusinessPostalCode", e.inherit ? "" : "K2P 1L5"},
-                {"BusinessCountry", "Canada"},
-                {"Custom1", n == 0 ? "Signing authority" : ""},
-                {"Notes", n == 0 ? "Partner in charge of corporate files.\r\nAway in August."
-                                 : ""}});
-    out.insert("ContactLinks", {{"ContactIDNum", id},
-                                {"CompanyNum", kFirmCompanyID},
-                                {"DefaultContact", n == 0 ? 1 : 0}});
+    out.insert(
+        "AccountantEmployeeInfo",
+        {{"ContactID", id},
+         {"UserName", e.userName},
+         {"FirstName", e.first},
+         {"LastName", e.last},
+         {"DisplayName", display},
+         {"InheritCompanyInfo", e.inherit ? 1 : 0},
+         {"EmployeeType", n == 4 ? "Part-Time" : "Full-Time"},
+         {"BusinessName", kFirmName},
+         {"BusinessJobTitle", e.title},
+         {"BusinessDepartment", n < 4 ? "Assurance and Tax" : "Administration"},
+         {"BusinessOffice", std::string("Office ") + e.extension},
+         {"BusinessPhone_Main", phone},
+         {"BusinessPhone_Fax", kFirmFax},
+         {"BusinessEmail", email},
+         {"BusinessAddress", address},
+         {"BusinessCity", e.inherit ? "" : "Ottawa"},
+         {"BusinessProvince", e.inherit ? "" : "ON"},
+         {"BusinessPostalCode", e.inherit ? "" : "K2P 1L5"},
+         {"BusinessCountry", "Canada"},
+         {"Custom1", n == 0 ? "Signing authority" : ""},
+         {"Notes", n == 0 ? "Partner in charge of corporate files.\r\nAway in August." : ""}});
+    out.insert(
+        "ContactLinks",
+        {{"ContactIDNum", id}, {"CompanyNum", kFirmCompanyID}, {"DefaultContact", n == 0 ? 1 : 0}});
   }
 }
 
@@ -176,12 +182,12 @@ void writeFirmSettings(SampleWriter& out) {
       {kCategoryLawyers, 6, "Lawyers", nullptr},
   };
   for (const Category& c : categories) {
-    out.insert("Categories", {{"CategoryID", c.id},
-                              c.parent >= 0 ? Field("CategoryNum", c.parent)
-                                            : Field("CategoryNum", nullptr),
-                              {"CategoryName", c.name},
-                              c.special != nullptr ? Field("CategorySpecialCode", c.special)
-                                                   : Field("CategorySpecialCode", nullptr)});
+    out.insert("Categories",
+               {{"CategoryID", c.id},
+                c.parent >= 0 ? Field("CategoryNum", c.parent) : Field("CategoryNum", nullptr),
+                {"CategoryName", c.name},
+                c.special != nullptr ? Field("CategorySpecialCode", c.special)
+                                     : Field("CategorySpecialCode", nullptr)});
   }
 
   // Labels keep their colon; "Custom 3:" and "Custom 5:" are left as the
@@ -246,18 +252,18 @@ void writeFirmSettings(SampleWriter& out) {
                                      {"PersonalDocQuillboxSplitter", 35}});
   out.insert("UserCalendarSettings",
              {{"UserIDNum", 1},
-              {"ApptTemplate", "«Appointment Name» with «Contact Display Name»\r\n"
-                               "«Appointment Start Time» to «Appointment End Time»"},
+              {"ApptTemplate",
+               "«Appointment Name» with «Contact Display Name»\r\n"
+               "«Appointment Start Time» to «Appointment End Time»"},
               {"ApptTitleBarText", "«Appointment Name» - «Company Name»"},
               {"DocketTemplate", "«Time Entry Name» for «Company Name» («Total Time (Final)»)"},
               {"DocketTitleBarText", "Time Entry - «Company Name»"},
               {"TaskTemplate", "«Task Name» due «(Task Due Date, mmmm d, yyyy)»"},
               {"TaskTitleBarText", "«Task Name» - «Company Name»"}});
   // "0" counts as no template: user 2 sees the built-in ones.
-  out.insert("UserCalendarSettings", {{"UserIDNum", 2},
-                                      {"ApptTemplate", "0"},
-                                      {"DocketTemplate", "0"},
-                                      {"TaskTemplate", "0"}});
+  out.insert(
+      "UserCalendarSettings",
+      {{"UserIDNum", 2}, {"ApptTemplate", "0"}, {"DocketTemplate", "0"}, {"TaskTemplate", "0"}});
 }
 
 void writeClientData(SampleWriter& out, const ClientDataValues& v) {
@@ -295,11 +301,12 @@ void writeClientData(SampleWriter& out, const ClientDataValues& v) {
                              {"IncorporationDate", isoDate(1990 + s % 30, 1 + s % 12, 1 + s % 27)},
                              {"CorporationType", s % 4 == 0 ? 1 : 0},
                              {"CorporationLevel", s % 3 == 0 ? 2 : 1}});
-  out.insert("LawInfo", {{"LawInfoID", id},
-                         {"NameRenewalDate", isoDate(2026 + s % 4, 1 + s % 12, 15)},
-                         {"LawSocietyMemberNumber", s % 5 == 0 ? "LSO-" + std::to_string(40000 + s) : ""}});
-  out.insert("OtherInfo", {{"OtherInfoID", id},
-                           {"CharitableNum", s % 7 == 0 ? bn + " RR0001" : ""}});
+  out.insert("LawInfo",
+             {{"LawInfoID", id},
+              {"NameRenewalDate", isoDate(2026 + s % 4, 1 + s % 12, 15)},
+              {"LawSocietyMemberNumber", s % 5 == 0 ? "LSO-" + std::to_string(40000 + s) : ""}});
+  out.insert("OtherInfo",
+             {{"OtherInfoID", id}, {"CharitableNum", s % 7 == 0 ? bn + " RR0001" : ""}});
   out.insert("WSIB_EHTInfo", {{"WSIB_EHTInfoID", id},
                               {"WSIBNumber", std::to_string(3829000 + s)},
                               {"WSIBFirmNumber", std::to_string(19283000 + s * 3)},
@@ -307,18 +314,19 @@ void writeClientData(SampleWriter& out, const ClientDataValues& v) {
                               {"Coverage", 50000.0 + (s % 5) * 25000.0},
                               {"EHTNumber", std::to_string(3948000 + s * 11)},
                               {"EHTPremiumRate", 0.98 + (s % 10) / 10.0}});
-  out.insert("ClientUSInfo", {{"ClientUSInfoID", id},
-                              {"EIN", std::to_string(45 + s % 50) + "-" + std::to_string(6547000 + s)},
-                              {"SellersPermitNum", std::to_string(54000 + s)},
-                              {"USYearEndDate", isoDate(2025, 12, 31)},
-                              {"SoSFileNum", std::to_string(548000 + s)},
-                              {"USIncorporationDate", isoDate(2005 + s % 15, 6, 1)},
-                              {"PropertyTaxNum", std::to_string(541000 + s)},
-                              {"Form637RegNum", std::to_string(8457000 + s)},
-                              {"TCN", std::to_string(15000 + s)},
-                              {"TerminalName", ""},
-                              {"TerminalLocation", ""},
-                              {"AlcoholNum", ""}});
+  out.insert("ClientUSInfo",
+             {{"ClientUSInfoID", id},
+              {"EIN", std::to_string(45 + s % 50) + "-" + std::to_string(6547000 + s)},
+              {"SellersPermitNum", std::to_string(54000 + s)},
+              {"USYearEndDate", isoDate(2025, 12, 31)},
+              {"SoSFileNum", std::to_string(548000 + s)},
+              {"USIncorporationDate", isoDate(2005 + s % 15, 6, 1)},
+              {"PropertyTaxNum", std::to_string(541000 + s)},
+              {"Form637RegNum", std::to_string(8457000 + s)},
+              {"TCN", std::to_string(15000 + s)},
+              {"TerminalName", ""},
+              {"TerminalLocation", ""},
+              {"AlcoholNum", ""}});
 }
 
 }  // namespace qb::sample

@@ -37,7 +37,7 @@ void writeFirmSettings(SampleWriter& out);
 struct ClientDataValues {
   int32_t clientDataID = 0;
   int32_t companyID = 0;
-  int32_t seed = 0;          // varies numbers and codes from client to client
+  int32_t seed = 0;  // varies numbers and codes from client to client
   bool showThisClient = true;
   int32_t activeStatus = 1;  // 1 active
 };

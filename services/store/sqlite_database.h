@@ -69,8 +69,8 @@ class SqliteDatabase : public DatabaseReference {
                      const std::string& value) override;
   bool updateRecord(RecordsetHandle handle) override;
   bool findRecord(RecordsetHandle handle, const std::string& fieldName, const std::string& value,
-                  const std::string& a = "", const std::string& b = "",
-                  const std::string& c = "", const std::string& d = "") override;
+                  const std::string& a = "", const std::string& b = "", const std::string& c = "",
+                  const std::string& d = "") override;
   bool deleteRecord(RecordsetHandle handle) override;
   // Number of recordsets open now (tests check that procedures close theirs).
   int openRecordsetCount() const;

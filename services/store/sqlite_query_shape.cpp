@@ -8,7 +8,6 @@ namespace qb::sqlite {
 
 namespace {
 
-
 const char* orEmpty(const char* text) { return text != nullptr ? text : ""; }
 
 // The table's one integer primary key column; "" when it has none or several.

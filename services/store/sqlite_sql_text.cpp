@@ -8,7 +8,18 @@ namespace {
 
 // Integer: digits only; Number: any other numeric literal; Literal: quoted
 // text or a quoted identifier.
-enum class Token { Space, Word, Integer, Number, Literal, Comparison, Minus, Parameter, Other, End };
+enum class Token {
+  Space,
+  Word,
+  Integer,
+  Number,
+  Literal,
+  Comparison,
+  Minus,
+  Parameter,
+  Other,
+  End
+};
 
 bool isWordChar(char c) {
   return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || c == '_' ||

@@ -25,9 +25,7 @@ constexpr double kUnixEpochSerial = 25569.0;
 
 bool isSeparator(char c) { return c == '/' || c == '\\'; }
 
-std::string::size_type lastSeparator(const std::string& path) {
-  return path.find_last_of("/\\");
-}
+std::string::size_type lastSeparator(const std::string& path) { return path.find_last_of("/\\"); }
 
 // statx with every time stamp and the size; false when the path can't be
 // reached.
@@ -66,7 +64,8 @@ Variant fileUtilitiesClass::getFileDate(const std::string& path, int16_t kind,
   if (!readStatx(path, stx)) return Variant::null();
   switch (kind) {
     case fileDateCreated: {
-      if (stx.stx_mask & STATX_BTIME) return Variant::date(timestampToSerial(stx.stx_btime, localTime));
+      if (stx.stx_mask & STATX_BTIME)
+        return Variant::date(timestampToSerial(stx.stx_btime, localTime));
       const auto& first = earlier(stx.stx_ctime, stx.stx_mtime) ? stx.stx_ctime : stx.stx_mtime;
       return Variant::date(timestampToSerial(first, localTime));
     }
@@ -100,8 +99,7 @@ FileAccessState fileUtilitiesClass::accessState(const std::string& path, bool* i
   if (stat(folder, &st) == 0) {
     if (!S_ISDIR(st.st_mode)) return FileAccessState::missingFolder;
     // The folder is there but may not be searched: the file can't be told.
-    return access(folder, X_OK) == 0 ? FileAccessState::missingFile
-                                             : FileAccessState::accessDenied;
+    return access(folder, X_OK) == 0 ? FileAccessState::missingFile : FileAccessState::accessDenied;
   }
   return errno == EACCES ? FileAccessState::accessDenied : FileAccessState::missingFolder;
 }
@@ -123,7 +121,8 @@ bool fileUtilitiesClass::isFileInUse(const std::string& path) const {
     dirent* process = readdir(proc);
     if (process == nullptr) break;
     std::string pid = process->d_name;
-    if (pid.empty() || pid.find_first_not_of("0123456789") != std::string::npos || pid == self) continue;
+    if (pid.empty() || pid.find_first_not_of("0123456789") != std::string::npos || pid == self)
+      continue;
     std::string fdFolder = "/proc/" + pid + "/fd";
     DIR* fds = opendir(fdFolder.c_str());
     if (fds == nullptr) continue;  // a process of another user, or gone
@@ -144,7 +143,8 @@ bool fileUtilitiesClass::isFileInUse(const std::string& path) const {
 }
 
 std::string fileUtilitiesClass::addTrailingBackslash(const std::string& folder) const {
-  bool backslashes = folder.find('\\') != std::string::npos && folder.find('/') == std::string::npos;
+  bool backslashes =
+      folder.find('\\') != std::string::npos && folder.find('/') == std::string::npos;
   std::string result = folder;
   while (!result.empty() && isSeparator(result.back())) result.pop_back();
   return result + (backslashes ? '\\' : '/');

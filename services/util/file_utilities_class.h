@@ -23,7 +23,11 @@ enum class FileAccessState {
 };
 
 // The date kinds of getFileDate.
-enum FileDateKind : int16_t { fileDateCreated = 0, fileDateLastAccessed = 1, fileDateLastModified = 2 };
+enum FileDateKind : int16_t {
+  fileDateCreated = 0,
+  fileDateLastAccessed = 1,
+  fileDateLastModified = 2
+};
 
 class fileUtilitiesClass {
  public:

@@ -6,9 +6,8 @@
 
 #include <cstdint>
 #include <memory>
-#include <string>
-
 #include <pugixml.hpp>
+#include <string>
 
 namespace qb {
 

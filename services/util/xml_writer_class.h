@@ -50,7 +50,7 @@ class xmlWriterClass {
   xmlNodeClass ownNode(const xmlNodeClass& node) const;
 
   std::shared_ptr<pugi::xml_document> document_;
-  pugi::xml_node staging_;   // created nodes wait here until placed
+  pugi::xml_node staging_;  // created nodes wait here until placed
   pugi::xml_node root_;
   pugi::xml_node position_;
 };

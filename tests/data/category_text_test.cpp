@@ -33,16 +33,18 @@ class CategoryTextTest : public DataTest {
 TEST_F(CategoryTextTest, NearestLevelFirstEachFurtherIn) {
   // The root is marked "Main" but stays: only the category with id 3 is asked about.
   EXPECT_EQ(categoryText(10), "    Toronto\r\n        Clients\r\n            Address Book\r\n");
-  EXPECT_EQ(categoryText(11),
-            "    Acme\r\n        Toronto\r\n            Clients\r\n                Address Book\r\n");
+  EXPECT_EQ(
+      categoryText(11),
+      "    Acme\r\n        Toronto\r\n            Clients\r\n                Address Book\r\n");
   EXPECT_EQ(categoryText(13) + categoryText(999), "");
   EXPECT_EQ(spy->open, 0);
   EXPECT_TRUE(db.errors().failures.empty());
 }
 
 TEST_F(CategoryTextTest, CategoryThreeMarkedMainLeavesOutEveryCategory) {
-  db.exec("INSERT INTO Categories (CategoryID, CategoryNum, CategoryName, CategorySpecialCode) "
-          "VALUES (3, NULL, 'Suppliers', 'MAIN');");
+  db.exec(
+      "INSERT INTO Categories (CategoryID, CategoryNum, CategoryName, CategorySpecialCode) "
+      "VALUES (3, NULL, 'Suppliers', 'MAIN');");
   EXPECT_EQ(categoryText(10), "");
   EXPECT_EQ(categoryText(11), "    Acme\r\n");  // skipped rows don't indent
   EXPECT_EQ(categoryText(10, true),
@@ -61,8 +63,9 @@ TEST_F(CategoryTextTest, ACycleEndsAfterOneHundredPasses) {
   EXPECT_EQ(spy->open, 0);
   std::string itself = categoryText(14);
   EXPECT_EQ(itself.rfind("    Itself\r\n        Itself\r\n", 0), 0u);
-  EXPECT_EQ(failedTraces(), std::vector<std::string>{
-                                "Orvanta.exe-modDatabaseFunctions-getParentCategoryIDFromCompanyID"});
+  EXPECT_EQ(failedTraces(),
+            std::vector<std::string>{
+                "Orvanta.exe-modDatabaseFunctions-getParentCategoryIDFromCompanyID"});
   EXPECT_EQ(spy->open, 1);  // the deepest look-up's recordset, left open by its failure
 }
 

@@ -12,9 +12,13 @@ std::string text(bool value) { return value ? "true" : "false"; }
 std::string text(std::string value) { return value; }
 
 template <auto lookUp>
-std::string byId(int32_t id) { return text(lookUp(id)); }
+std::string byId(int32_t id) {
+  return text(lookUp(id));
+}
 template <auto test>
-std::string byText(int32_t id) { return text(test(std::to_string(id))); }
+std::string byText(int32_t id) {
+  return text(test(std::to_string(id)));
+}
 std::string nameByType2(int32_t id) { return getContactNameDisplayedByType(2, id, -1, false); }
 
 // A look-up that tests the connection first, the id of a row it finds, what
@@ -112,7 +116,8 @@ TEST_F(ClientLookUpsTest, LookUpsReadTheFirstRowOrGiveTheirDefaultAndCloseEveryR
 TEST_F(ClientLookUpsTest, ValidIdTestsAskOnlyAboutNumbersOfZeroOrMore) {
   size_t asked = spy->sql.size();
   for (const char* id : {"", "abc", "-1"}) {
-    EXPECT_FALSE(validCompanyID(id) || validContactID(id) || validFirmID(id) || validEmployeeID(id));
+    EXPECT_FALSE(validCompanyID(id) || validContactID(id) || validFirmID(id) ||
+                 validEmployeeID(id));
   }
   EXPECT_EQ(getTaskIDFromScheduleIDNum(-1), -1);
   EXPECT_EQ(spy->sql.size(), asked);

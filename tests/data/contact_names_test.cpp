@@ -19,11 +19,12 @@ class ContactNamesTest : public DataTest {
     const char* spouseLastNames[] = {"'Jones'", "'SMITH'", "'Jones'"};
     for (int spouse = 0; spouse < 3; ++spouse) {
       for (int names = 0; names < 4; ++names) {
-        db.exec("INSERT INTO Contacts (ContactID, FirstName, LastName, DisplayName, "
-                "ContactPersonalTaxDisplayType, SpouseFirstName, SpouseLastName) VALUES (" +
-                std::to_string(spouse * 4 + names + 1) + ", " + (names & 1 ? "' Ann '" : "NULL") +
-                ", " + (names & 2 ? "'Smith '" : "' '") + ", ' A. Smith ', " +
-                (spouse == 0 ? "1" : "2") + ", ' Bob', " + spouseLastNames[spouse] + ");");
+        db.exec(
+            "INSERT INTO Contacts (ContactID, FirstName, LastName, DisplayName, "
+            "ContactPersonalTaxDisplayType, SpouseFirstName, SpouseLastName) VALUES (" +
+            std::to_string(spouse * 4 + names + 1) + ", " + (names & 1 ? "' Ann '" : "NULL") +
+            ", " + (names & 2 ? "'Smith '" : "' '") + ", ' A. Smith ', " +
+            (spouse == 0 ? "1" : "2") + ", ' Bob', " + spouseLastNames[spouse] + ");");
       }
     }
   }
@@ -31,12 +32,12 @@ class ContactNamesTest : public DataTest {
 
 TEST_F(ContactNamesTest, GivenNameFirstAndSurnameFirst) {
   const char* expected[2][12] = {
-      {"A. Smith", "Ann", "Smith", "Ann Smith",
-       "A. Smith", "Ann & Bob SMITH", "Bob Smith", "Ann & Bob Smith",
-       "A. Smith", "Ann & Bob Jones", "Smith & Bob Jones", "Ann Smith & Bob Jones"},
-      {"A. Smith", "Ann", "Smith", "Smith, Ann",
-       "A. Smith & SMITH, Bob", "Ann & SMITH, Bob", "Smith, Bob", "Smith, Ann & Bob",
-       "A. Smith & Jones, Bob", "Ann & Jones, Bob", "Smith & Jones, Bob", "Smith, Ann & Jones, Bob"}};
+      {"A. Smith", "Ann", "Smith", "Ann Smith", "A. Smith", "Ann & Bob SMITH", "Bob Smith",
+       "Ann & Bob Smith", "A. Smith", "Ann & Bob Jones", "Smith & Bob Jones",
+       "Ann Smith & Bob Jones"},
+      {"A. Smith", "Ann", "Smith", "Smith, Ann", "A. Smith & SMITH, Bob", "Ann & SMITH, Bob",
+       "Smith, Bob", "Smith, Ann & Bob", "A. Smith & Jones, Bob", "Ann & Jones, Bob",
+       "Smith & Jones, Bob", "Smith, Ann & Jones, Bob"}};
   for (int32_t type : {2, 3}) {
     for (int32_t id = 1; id <= 12; ++id) {
       EXPECT_EQ(getContactNameDisplayedByType(type, id, -1, false), expected[type - 2][id - 1])
@@ -86,8 +87,8 @@ TEST_F(ContactNamesTest, RelationshipFollowsInBracketsWhenAsked) {
 TEST_F(ContactNamesTest, AFailureKeepsTheNameBuiltSoFar) {
   db.exec("DROP TABLE ContactLinks;");
   EXPECT_EQ(getContactNameDisplayedByType(2, 4, 30, true), "Ann Smith");
-  EXPECT_EQ(failedTraces(),
-            std::vector<std::string>{"Orvanta.exe-modDatabaseFunctions-getContactNameDisplayedByType"});
+  EXPECT_EQ(failedTraces(), std::vector<std::string>{
+                                "Orvanta.exe-modDatabaseFunctions-getContactNameDisplayedByType"});
   EXPECT_EQ(spy->open, 1);  // the contact's recordset stays open after the failure
 }
 

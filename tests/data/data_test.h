@@ -51,7 +51,9 @@ class SpyStore : public DatabaseReference {
   bool isEndOfRecordset(H h) override { return ++calls, in_->isEndOfRecordset(h); }
   int16_t getRecordPosition(H h) override { return ++calls, in_->getRecordPosition(h); }
   bool setRecordPosition(H h, int16_t p) override { return ++calls, in_->setRecordPosition(h, p); }
-  Variant getFieldValue(H h, const Variant& f) override { return ++calls, in_->getFieldValue(h, f); }
+  Variant getFieldValue(H h, const Variant& f) override {
+    return ++calls, in_->getFieldValue(h, f);
+  }
   bool updateFieldValue(H h, const S& f, const S& v, bool a, bool b) override {
     return ++calls, in_->updateFieldValue(h, f, v, a, b);
   }

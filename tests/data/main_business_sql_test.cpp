@@ -39,7 +39,9 @@ TEST_F(DataTest, MainBusinessSqlIsComposedFromItsParts) {
   db.locale().countryCode = 2;
   std::string unitedStates = getMainBusinessSQLString(true, 1, 10);
   EXPECT_EQ(unitedStates.rfind("SELECT AccountingServices.*, ClientData.*, ClientOptions.*, "
-                               "Companies.*, ClientUSInfo.*, CompaniesNotes.BusinessNotes, ", 0), 0u);
+                               "Companies.*, ClientUSInfo.*, CompaniesNotes.BusinessNotes, ",
+                               0),
+            0u);
   EXPECT_EQ(tail(unitedStates),
             "WHERE ClientData.ShowThisClient = True AND ClientData.ActiveStatus=1 "
             "AND ClientData.ClientDataID=10 ORDER BY Companies.CompanyName;");
@@ -64,17 +66,20 @@ TEST_F(DataTest, EveryMainBusinessSqlRunsAndKeepsTheRightClients) {
     int id;
     bool shown, active;
   };
-  const Client clients[] = {{10, true, true}, {20, true, false}, {30, false, true}, {40, false, false}};
+  const Client clients[] = {
+      {10, true, true}, {20, true, false}, {30, false, true}, {40, false, false}};
   for (const Client& c : clients) {
     std::string id = std::to_string(c.id), company = std::to_string(c.id / 10);
     db.exec("INSERT INTO Companies (CompanyID, CompanyName) VALUES (" + company + ", 'C');" +
             "INSERT INTO ClientData (ClientDataID, CompanyIDNum, ShowThisClient, ActiveStatus) "
-            "VALUES (" + id + ", " + company + ", " + (c.shown ? "TRUE" : "FALSE") + ", " +
+            "VALUES (" +
+            id + ", " + company + ", " + (c.shown ? "TRUE" : "FALSE") + ", " +
             (c.active ? "1" : "2") + "); INSERT INTO CompaniesNotes (CompanyNum) VALUES (" +
             company + ");");
-    for (std::string table : {"AccountingServices (AccountingServiceID", "ClientOptions (ClientOptionID",
-                              "CorpTaxInfo (CorpTaxInfoID", "LawInfo (LawInfoID", "OtherInfo (OtherInfoID",
-                              "WSIB_EHTInfo (WSIB_EHTInfoID", "ClientUSInfo (ClientUSInfoID"}) {
+    for (std::string table :
+         {"AccountingServices (AccountingServiceID", "ClientOptions (ClientOptionID",
+          "CorpTaxInfo (CorpTaxInfoID", "LawInfo (LawInfoID", "OtherInfo (OtherInfoID",
+          "WSIB_EHTInfo (WSIB_EHTInfoID", "ClientUSInfo (ClientUSInfoID"}) {
       db.exec("INSERT INTO " + table + ") VALUES (" + id + ");");
     }
   }

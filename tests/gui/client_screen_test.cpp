@@ -39,14 +39,16 @@ void expectListShowsModel(gui::DocumentListWidget& widget) {
 
 std::vector<std::string> rowTexts(const ListView& list) {
   std::vector<std::string> texts;
-  for (int32_t i = 1; i <= list.ListItems().Count(); ++i) texts.push_back(list.ListItems()(i).Text());
+  for (int32_t i = 1; i <= list.ListItems().Count(); ++i)
+    texts.push_back(list.ListItems()(i).Text());
   return texts;
 }
 
 }  // namespace
 
 TEST_F(DeskTest, ShowsTheClientAndFollowsAClickOnTheTree) {
-  EXPECT_EQ(window_->windowTitle().toStdString(), "Client Documents — Rideau Valley Accounting LLP");
+  EXPECT_EQ(window_->windowTitle().toStdString(),
+            "Client Documents — Rideau Valley Accounting LLP");
   EXPECT_EQ(quillbox().lblClientName().Caption(), "  Maple Leaf Bakery Ltd.");
   expectListShowsModel(listWidget());
 
@@ -60,7 +62,8 @@ TEST_F(DeskTest, ShowsTheClientAndFollowsAClickOnTheTree) {
   // list, and the widget shows the new rows.
   int mouseUps = 0;
   auto handler = quillbox().tvClientDocumentation().MouseUp;
-  quillbox().tvClientDocumentation().MouseUp = [&](int16_t button, int16_t shift, float x, float y) {
+  quillbox().tvClientDocumentation().MouseUp = [&](int16_t button, int16_t shift, float x,
+                                                   float y) {
     ++mouseUps;
     handler(button, shift, x, y);
   };
@@ -68,8 +71,9 @@ TEST_F(DeskTest, ShowsTheClientAndFollowsAClickOnTheTree) {
   EXPECT_EQ(mouseUps, 1);
   EXPECT_EQ(model.SelectedItem(), &nodeNamed("Correspondence"));
   EXPECT_EQ(quillbox().headerGradient().Caption(), "  Correspondence");
-  EXPECT_EQ(rowTexts(quillbox().lvDocuments()),
-            (std::vector<std::string>{"Engagement Letter", "Meeting notes", "Missing receipts letter"}));
+  EXPECT_EQ(
+      rowTexts(quillbox().lvDocuments()),
+      (std::vector<std::string>{"Engagement Letter", "Meeting notes", "Missing receipts letter"}));
   expectListShowsModel(listWidget());
 }
 
@@ -84,8 +88,10 @@ TEST_F(DeskTest, ShowsTheFourViewsAndSavesScreenshots) {
   QHeaderView& header = *widget.detailsView().header();
   ASSERT_EQ(header.count(), columns.Count());
   for (int32_t i = 1; i <= columns.Count(); ++i) {
-    EXPECT_EQ(header.model()->headerData(i - 1, Qt::Horizontal).toString().toStdString(), columns(i).Text());
-    EXPECT_EQ(header.sectionSize(i - 1), static_cast<int>(columns(i).Width() / 15 + 0.5)) << columns(i).Text();
+    EXPECT_EQ(header.model()->headerData(i - 1, Qt::Horizontal).toString().toStdString(),
+              columns(i).Text());
+    EXPECT_EQ(header.sectionSize(i - 1), static_cast<int>(columns(i).Width() / 15 + 0.5))
+        << columns(i).Text();
   }
   expectListShowsModel(widget);
   screenshot("client-documents-details");
@@ -138,7 +144,8 @@ TEST_F(DeskTest, PdfRowsShowTheThemeIconAndTheFillShowsTheBusyPointer) {
   ASSERT_EQ(list.ListItems().Count(), 2);
   for (int32_t i = 1; i <= 2; ++i) {
     ASSERT_NE(list.ListItems()(i).Tag().find(".pdf"), std::string::npos);
-    const QIcon icon = qvariant_cast<QIcon>(listWidget().itemModel().index(i - 1, 0).data(Qt::DecorationRole));
+    const QIcon icon =
+        qvariant_cast<QIcon>(listWidget().itemModel().index(i - 1, 0).data(Qt::DecorationRole));
     EXPECT_FALSE(icon.isNull());
     // From the desktop's theme, not the drawn page.
     EXPECT_FALSE(icon.name().isEmpty());
@@ -161,7 +168,8 @@ TEST_F(DeskTest, NavigationButtonsMoveThroughTheFirmsClients) {
   auto& last = dynamic_cast<QPushButton&>(widgetOf(quillbox().cmdClientNav(3)));
   click(last, last.rect().center());
   EXPECT_EQ(window_->currentClient(), window_->roster().size() - 1);
-  EXPECT_FALSE(window_->roster().at(window_->currentClient()).isCompany);  // contacts come after companies
+  EXPECT_FALSE(
+      window_->roster().at(window_->currentClient()).isCompany);  // contacts come after companies
 }
 
 }  // namespace qb::test

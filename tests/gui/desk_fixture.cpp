@@ -67,8 +67,10 @@ gui::DocumentListWidget& DeskTest::listWidget() {
   return dynamic_cast<gui::DocumentListWidget&>(widgetOf(quillbox().lvDocuments()));
 }
 
-void mouse(QWidget& target, QEvent::Type type, const QPoint& at, Qt::MouseButton button, Qt::MouseButtons held) {
-  QMouseEvent event(type, QPointF(at), QPointF(target.mapToGlobal(at)), button, held, Qt::NoModifier);
+void mouse(QWidget& target, QEvent::Type type, const QPoint& at, Qt::MouseButton button,
+           Qt::MouseButtons held) {
+  QMouseEvent event(type, QPointF(at), QPointF(target.mapToGlobal(at)), button, held,
+                    Qt::NoModifier);
   QApplication::sendEvent(&target, &event);
 }
 

@@ -6,10 +6,9 @@
 
 #include <gtest/gtest.h>
 
+#include <QWidget>
 #include <memory>
 #include <string>
-
-#include <QWidget>
 
 #include "app/desk/client_window.h"
 #include "control/nv_document_quillbox.h"
@@ -25,7 +24,8 @@ void ensureApplication();
 // Lets posted events (layout, paints) run.
 void settle();
 // One mouse event of type at a point of target.
-void mouse(QWidget& target, QEvent::Type type, const QPoint& at, Qt::MouseButton button, Qt::MouseButtons held);
+void mouse(QWidget& target, QEvent::Type type, const QPoint& at, Qt::MouseButton button,
+           Qt::MouseButtons held);
 // A press and a release of button at a point of target, then settle().
 void click(QWidget& target, const QPoint& at, Qt::MouseButton button = Qt::LeftButton);
 

@@ -45,7 +45,8 @@ TEST_F(DeskTest, RosterHoldsCompaniesThenContactsByName) {
   desk::ClientPickerDialog picker(roster, roster.find(true, 3), nullptr);
   picker.filter("BAKERY");
   int shown = 0;
-  for (int i = 0; i < picker.list().topLevelItemCount(); ++i) shown += !picker.list().topLevelItem(i)->isHidden();
+  for (int i = 0; i < picker.list().topLevelItemCount(); ++i)
+    shown += !picker.list().topLevelItem(i)->isHidden();
   EXPECT_EQ(shown, 2);
   EXPECT_EQ(picker.picked(), roster.find(true, 12));  // Maple Leaf Bakery - Orléans comes first
   picker.filter("no such client");
@@ -61,11 +62,14 @@ TEST_F(DeskTest, ClosingKeepsTheUsersViewAndABadDatabaseLeavesTheWindowEmpty) {
   SqliteDatabase store;
   store.open(folder_.file("firm.db"));
   RecordsetHandle row = store.openRecordset(
-      "SELECT DocQuillboxListViewType, BusinessDocQuillboxSplitter FROM UserGeneralSettings WHERE UserIDNum = 1;",
+      "SELECT DocQuillboxListViewType, BusinessDocQuillboxSplitter FROM UserGeneralSettings WHERE "
+      "UserIDNum = 1;",
       adOpenKeyset, adLockReadOnly);
   ASSERT_TRUE(store.moveFirstRecord(row));
-  EXPECT_EQ(CLng(store.getFieldValue(row, Variant(std::string("DocQuillboxListViewType")))), viewSmallIcons);
-  EXPECT_EQ(CLng(store.getFieldValue(row, Variant(std::string("BusinessDocQuillboxSplitter")))), divider);
+  EXPECT_EQ(CLng(store.getFieldValue(row, Variant(std::string("DocQuillboxListViewType")))),
+            viewSmallIcons);
+  EXPECT_EQ(CLng(store.getFieldValue(row, Variant(std::string("BusinessDocQuillboxSplitter")))),
+            divider);
   store.closeRecordset(row);
   EXPECT_EQ(window_->errors().failureCount(), 0);
 

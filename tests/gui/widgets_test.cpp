@@ -55,7 +55,9 @@ void fillRows(ListView& list, const std::vector<std::string>& names) {
 }  // namespace
 
 TEST(InputCodes, QtInputAsTheModelsCodes) {
-  auto key = [](int qtKey) { return gui::keyCode(QKeyEvent(QEvent::KeyPress, qtKey, Qt::NoModifier)); };
+  auto key = [](int qtKey) {
+    return gui::keyCode(QKeyEvent(QEvent::KeyPress, qtKey, Qt::NoModifier));
+  };
   EXPECT_EQ(key(Qt::Key_Delete), 46);
   EXPECT_EQ(key(Qt::Key_Return), 13);
   EXPECT_EQ(key(Qt::Key_Enter), 13);
@@ -115,13 +117,13 @@ TEST_F(WidgetsTest, WidgetsFollowTheirModels) {
   label.setVisible(true);
   std::vector<std::string> events;
   label.MouseDown = [&](int16_t b, int16_t s, float x, float y) {
-    events.push_back("down " + std::to_string(b) + " " + std::to_string(s) + " " + std::to_string(int(x)) + "," +
-                     std::to_string(int(y)));
+    events.push_back("down " + std::to_string(b) + " " + std::to_string(s) + " " +
+                     std::to_string(int(x)) + "," + std::to_string(int(y)));
   };
   label.Click = [&] { events.push_back("click"); };
   label.KeyUp = [&](int16_t key, int16_t) { events.push_back("key " + std::to_string(key)); };
-  QMouseEvent press(QEvent::MouseButtonPress, QPointF(3, 4), QPointF(3, 4), Qt::RightButton, Qt::RightButton,
-                    Qt::ShiftModifier);
+  QMouseEvent press(QEvent::MouseButtonPress, QPointF(3, 4), QPointF(3, 4), Qt::RightButton,
+                    Qt::RightButton, Qt::ShiftModifier);
   QApplication::sendEvent(&labelWidget, &press);
   mouse(labelWidget, QEvent::MouseButtonRelease, QPoint(3, 4), Qt::RightButton, Qt::NoButton);
   QKeyEvent release(QEvent::KeyRelease, Qt::Key_Delete, Qt::NoModifier);
@@ -142,7 +144,8 @@ TEST_F(WidgetsTest, DocumentListKeepsRowsSelectionAndColumnsInStep) {
   QAbstractItemModel& shown = *widget.detailsView().model();
   ASSERT_EQ(shown.rowCount(), 3);
   EXPECT_EQ(shown.index(1, 1).data().toString(), "5 Mb");
-  EXPECT_EQ(shown.index(1, 1).data(Qt::TextAlignmentRole).value<Qt::Alignment>() & Qt::AlignRight, Qt::AlignRight);
+  EXPECT_EQ(shown.index(1, 1).data(Qt::TextAlignmentRole).value<Qt::Alignment>() & Qt::AlignRight,
+            Qt::AlignRight);
   // A row without a picture still shows an icon: the drawn page.
   const QIcon drawn = qvariant_cast<QIcon>(shown.index(0, 0).data(Qt::DecorationRole));
   EXPECT_FALSE(drawn.isNull());
@@ -229,7 +232,8 @@ TEST_F(WidgetsTest, CategoryTreeFollowsNodesBothWays) {
   letters.setText("Correspondence");
   EXPECT_EQ(widget.itemOf(&letters)->text(0), "Correspondence");
   EXPECT_EQ(widget.itemOf(&letters)->childCount(), 1);
-  const QPoint onTaxes = widget.visualItemRect(widget.itemOf(tree.Nodes().find("Category:2"))).center();
+  const QPoint onTaxes =
+      widget.visualItemRect(widget.itemOf(tree.Nodes().find("Category:2"))).center();
   const QPoint inTree = widget.viewport()->mapTo(&widget, onTaxes);
   EXPECT_EQ(tree.HitTest(inTree.x() * 15.0f, inTree.y() * 15.0f)->Text(), "Taxes");
   tree.Nodes().Remove("Category:3");

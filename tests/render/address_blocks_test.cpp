@@ -48,14 +48,26 @@ TEST(AddressBlocks, LinesFollowWhatIsFilled) {
       {"no city", [](AddressRecord& a) { a.city = ""; }, true,
        "Acme Ltd\r\nJane Roe\r\n12 Main St\r\nOntario  K2G 0Z1"},
       {"no street: an empty line stands for it",
-       [](AddressRecord& a) { a.addressText = ""; a.province = ""; a.postalCode = ""; }, true,
-       "Acme Ltd\r\nJane Roe\r\n\r\nOttawa"},
+       [](AddressRecord& a) {
+         a.addressText = "";
+         a.province = "";
+         a.postalCode = "";
+       },
+       true, "Acme Ltd\r\nJane Roe\r\n\r\nOttawa"},
       {"no street and no city: no empty line",
-       [](AddressRecord& a) { a.addressText = ""; a.city = ""; a.province = ""; }, true,
-       "Acme Ltd\r\nJane Roe\r\nK2G 0Z1"},
+       [](AddressRecord& a) {
+         a.addressText = "";
+         a.city = "";
+         a.province = "";
+       },
+       true, "Acme Ltd\r\nJane Roe\r\nK2G 0Z1"},
       {"no street and no city, a province: no empty line",
-       [](AddressRecord& a) { a.addressText = ""; a.city = ""; a.postalCode = ""; }, true,
-       "Acme Ltd\r\nJane Roe\r\nOntario"},
+       [](AddressRecord& a) {
+         a.addressText = "";
+         a.city = "";
+         a.postalCode = "";
+       },
+       true, "Acme Ltd\r\nJane Roe\r\nOntario"},
       {"names only keep their break",
        [](AddressRecord& a) { a.addressText = a.city = a.province = a.postalCode = ""; }, true,
        "Acme Ltd\r\nJane Roe\r\n"},

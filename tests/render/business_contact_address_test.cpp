@@ -10,16 +10,16 @@ struct Flags {
 };
 
 std::string businessAddress(int32_t contact, int32_t employee, int32_t& company, Flags f) {
-  return modFormatAddresses::createBusinessContactAddress(contact, f.rtf, employee, company,
-                                                          f.address, f.phones, f.email,
-                                                          f.businessName);
+  return modFormatAddresses::createBusinessContactAddress(
+      contact, f.rtf, employee, company, f.address, f.phones, f.email, f.businessName);
 }
 
 class BusinessContactAddress : public RenderTest {
  protected:
   BusinessContactAddress() {
     db.exec(
-        "INSERT INTO Contacts (ContactID, DisplayName, BusinessName, BusinessAddress, BusinessCity, "
+        "INSERT INTO Contacts (ContactID, DisplayName, BusinessName, BusinessAddress, "
+        "BusinessCity, "
         "BusinessPhone_Main, BusinessPhone_Fax, BusinessPhone_Cell, BusinessEmail, "
         "InheritCompanyInfo) VALUES "
         "(10, 'Jane Roe', 'Roe Design', '9 Own St', 'Hull', NULL, 'own-fax', 'own-cell', "
@@ -27,7 +27,8 @@ class BusinessContactAddress : public RenderTest {
         "(11, 'Tom Poe', NULL, '8 Home Rd', 'Aylmer', '555-1111', NULL, NULL, NULL, 0);"
         "INSERT INTO AccountantFirmInfo (CompanyID, Address, City, Province, PostalCode, "
         "OfficeNumber) VALUES (40, '40 Firm Pl', 'Ottawa', 'ON', 'K2P 2P2', '613-555-4000');"
-        "INSERT INTO AccountantEmployeeInfo (ContactID, DisplayName, BusinessAddress, BusinessCity, "
+        "INSERT INTO AccountantEmployeeInfo (ContactID, DisplayName, BusinessAddress, "
+        "BusinessCity, "
         "InheritCompanyInfo) VALUES (50, 'Eve Clerk', '7 Desk Ln', 'Vanier', 1);");
   }
 };
@@ -57,7 +58,8 @@ TEST_F(BusinessContactAddress, AnInheritingContactShowsItsCompany) {
     company = given;
     Flags plain;
     plain.rtf = true;
-    EXPECT_EQ(businessAddress(10, -1, company, plain), "Roe Design\r\n\\par Jane Roe\r\n\\par 9 Own St\r\n\\par Hull");
+    EXPECT_EQ(businessAddress(10, -1, company, plain),
+              "Roe Design\r\n\\par Jane Roe\r\n\\par 9 Own St\r\n\\par Hull");
     EXPECT_EQ(company, -1);
   }
 
@@ -77,7 +79,8 @@ TEST_F(BusinessContactAddress, AnInheritingContactShowsItsCompany) {
 
 TEST_F(BusinessContactAddress, AnEmployeeInheritsTheFirmOnlyWithoutAValidFirmID) {
   int32_t company = -1;
-  EXPECT_EQ(businessAddress(-1, 50, company, Flags{}), "Eve Clerk\r\n40 Firm Pl\r\nOttawa, ON  K2P 2P2");
+  EXPECT_EQ(businessAddress(-1, 50, company, Flags{}),
+            "Eve Clerk\r\n40 Firm Pl\r\nOttawa, ON  K2P 2P2");
   EXPECT_EQ(company, 40);
 
   company = 40;  // a valid firm id: no firm address, and the id becomes -1

@@ -48,7 +48,8 @@ TEST_F(ContactSummary, ARichContactWritesEverySection) {
       "\\par\r\n"
       "\\b SIN:\\b0  \\tab\\tab    123 456 789\\par\r\n\\par\r\n"
       "\\b\\pard\\fi0\\li0\\ri0 Associated Company: \\b0 Acme Ltd\\par\r\n\\par\r\n"
-      "\\b\\pard\\fi0\\li0\\ri0 Address (Cottage):\\b0\\par\r\n1 Lake Rd\r\n\\par Wakefield\\par\r\n"
+      "\\b\\pard\\fi0\\li0\\ri0 Address (Cottage):\\b0\\par\r\n1 Lake Rd\r\n\\par "
+      "Wakefield\\par\r\n"
       "\\par\r\n"
       "\\b\\pard\\fi0\\li0\\ri0 Associated Category: \\b0 Clients\\par\r\n\\par\r\n"
       "\\b Colour:\\b0  Blue\\par\r\n\\par\r\n"
@@ -72,10 +73,11 @@ TEST_F(ContactSummary, ARichContactWritesEverySection) {
 
 TEST_F(ContactSummary, AContactWithOnlyANameAndUnknownPeople) {
   const std::string nameOnly =
-      kHeader + "\\b\\pard\\fi-1450\\li1450\\ri0 Name:\\b0  Sam Poe\\par\r\n\\par\r\n"
-                "\\b Default Contact:\\b0  No\\par\r\n\\par\r\n"
-                "\\b\\pard\\fi0\\li0\\ri0 Address:\\b0\\par\r\nSam Poe\r\n\\par\\par\r\n"
-                "\\par\r\n";
+      kHeader +
+      "\\b\\pard\\fi-1450\\li1450\\ri0 Name:\\b0  Sam Poe\\par\r\n\\par\r\n"
+      "\\b Default Contact:\\b0  No\\par\r\n\\par\r\n"
+      "\\b\\pard\\fi0\\li0\\ri0 Address:\\b0\\par\r\nSam Poe\r\n\\par\\par\r\n"
+      "\\par\r\n";
   EXPECT_EQ(summary(21, -1), nameOnly + "}");
   // No notes row: one is added, without a ContactNum.
   EXPECT_EQ(db.scalar("SELECT COUNT(*) FROM ContactsNotes WHERE ContactNum IS NULL AND "

@@ -26,12 +26,15 @@ class DefaultContact : public RenderTest {
     return db.scalar(
         "SELECT IFNULL(DefaultContactName, '') || '|' || IFNULL(DefaultContactPhoneNumber, '') || "
         "'|' || IFNULL(DefaultContactFaxNumber, '') || '|' || IFNULL(DefaultContactEmail, '') "
-        "FROM Companies WHERE CompanyID = " + std::to_string(company) + ";");
+        "FROM Companies WHERE CompanyID = " +
+        std::to_string(company) + ";");
   }
 
   std::string storedDefault(int company) {
-    return db.scalar("SELECT ContactIDNum FROM ContactLinks WHERE DefaultContact = True AND "
-                     "CompanyNum = " + std::to_string(company) + ";");
+    return db.scalar(
+        "SELECT ContactIDNum FROM ContactLinks WHERE DefaultContact = True AND "
+        "CompanyNum = " +
+        std::to_string(company) + ";");
   }
 };
 

@@ -1,8 +1,9 @@
+#include "splitter/splitter.h"
+
 #include <gtest/gtest.h>
 
 #include "services/controls/frame.h"
 #include "services/controls/platform.h"
-#include "splitter/splitter.h"
 
 namespace qb {
 namespace {
@@ -62,10 +63,9 @@ TEST_F(SplitterFixture, SettersKeepTheirRules) {
   EXPECT_FALSE(s->picSplitter.Enabled());
   EXPECT_FALSE(s->Enabled());
   EXPECT_TRUE(static_cast<const Control&>(*s).Enabled());
-  EXPECT_EQ(changed,
-            (std::vector<std::string>{"SplitterPosition", "SplitterPosition", "SplitterMin",
-                                      "SplitterMax", "SplitterMax", "SplitterMin", "SplitterColor",
-                                      "Enabled"}));
+  EXPECT_EQ(changed, (std::vector<std::string>{"SplitterPosition", "SplitterPosition",
+                                               "SplitterMin", "SplitterMax", "SplitterMax",
+                                               "SplitterMin", "SplitterColor", "Enabled"}));
   EXPECT_EQ(std::string(Splitter::kDescribeRightOrBottomControl),
             "Returns/Sets the botoom, or top control.");
 }
@@ -80,9 +80,9 @@ TEST_F(SplitterFixture, DragMovesTheGhostWithinStrictLimits) {
   EXPECT_EQ(s->picMover.zOrderCount(), 1);
   s->picSplitter.MouseMove.raise(1, 0, -1998.6f, 100);  // to 3001.4, nearest 3001
   EXPECT_EQ(geometry(s->picMover), "3001.399902,0,70,5000");
-  EXPECT_EQ(s->SplitterPosition(), 30);  // Int(100 / (10000 / 3001)) = Int(30.01)
-  EXPECT_EQ(geometry(left), "0,0,5000,5000");  // neighbours wait for the release
-  s->picSplitter.MouseMove.raise(1, 0, 4000, 100);  // 9000 is not below 9000
+  EXPECT_EQ(s->SplitterPosition(), 30);              // Int(100 / (10000 / 3001)) = Int(30.01)
+  EXPECT_EQ(geometry(left), "0,0,5000,5000");        // neighbours wait for the release
+  s->picSplitter.MouseMove.raise(1, 0, 4000, 100);   // 9000 is not below 9000
   s->picSplitter.MouseMove.raise(1, 0, -4000, 100);  // 1000 is not above 1000
   EXPECT_EQ(geometry(s->picMover), "3001.399902,0,70,5000");
   EXPECT_EQ(s->SplitterPosition(), 30);
@@ -155,10 +155,10 @@ TEST_F(SplitterFixture, PropertyBagRoundTrip) {
   s->WriteProperties(fresh);
   std::vector<std::string> names;
   for (const auto& w : fresh.writes()) names.push_back(w.name);
-  EXPECT_EQ(names, (std::vector<std::string>{"Enabled", "LeftOrTopControl", "Orientation",
-                                             "RightOrBottomControl", "SplitterPosition",
-                                             "SplitterMax", "SplitterMin", "SplitterColor",
-                                             "SplitterWidth"}));
+  EXPECT_EQ(names,
+            (std::vector<std::string>{"Enabled", "LeftOrTopControl", "Orientation",
+                                      "RightOrBottomControl", "SplitterPosition", "SplitterMax",
+                                      "SplitterMin", "SplitterColor", "SplitterWidth"}));
   EXPECT_EQ(fresh.writes()[7].defaultValue, Variant(static_cast<int32_t>(0x8000000F)));
   EXPECT_FALSE(fresh.isStored("SplitterPosition"));  // defaults are not stored
   EXPECT_TRUE(fresh.isStored("LeftOrTopControl"));

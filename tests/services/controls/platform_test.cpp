@@ -1,3 +1,5 @@
+#include "services/controls/platform.h"
+
 #include <gtest/gtest.h>
 
 #include "services/controls/command_button.h"
@@ -5,7 +7,6 @@
 #include "services/controls/frame.h"
 #include "services/controls/image_list.h"
 #include "services/controls/menu_item.h"
-#include "services/controls/platform.h"
 #include "services/controls/progress_bar.h"
 #include "services/controls/text_box.h"
 #include "tests/services/controls/error_number.h"
@@ -160,8 +161,10 @@ TEST_F(PlatformFixture, TypingGoesThroughKeyPressAndLocked) {
   TextBox box{"txtField", 1};
   box.setMaxLength(4);
   box.KeyPress = [](int16_t& key) {
-    if (key == 'x') key = 0;
-    else if (key >= 'a' && key <= 'z') key = static_cast<int16_t>(key - 32);
+    if (key == 'x')
+      key = 0;
+    else if (key >= 'a' && key <= 'z')
+      key = static_cast<int16_t>(key - 32);
   };
   EXPECT_EQ(box.typeText("abxcdé"), "ABCD");
   box.setText("");

@@ -1,6 +1,7 @@
+#include "services/controls/tree_view.h"
+
 #include <gtest/gtest.h>
 
-#include "services/controls/tree_view.h"
 #include "tests/services/controls/error_number.h"
 
 namespace qb {

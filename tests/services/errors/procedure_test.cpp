@@ -1,6 +1,8 @@
 // The error convention: trace names pushed and popped, and the user's three
 // responses to a failure (go on, leave, exit hook then leave).
 
+#include "services/errors/procedure.h"
+
 #include <gtest/gtest.h>
 
 #include <memory>
@@ -9,7 +11,6 @@
 #include <vector>
 
 #include "services/errors/console_error_object.h"
-#include "services/errors/procedure.h"
 #include "services/errors/recording_error_object.h"
 #include "services/host/module_state.h"
 
@@ -46,11 +47,11 @@ TEST_F(ProcedureTest, ResponsesDecideWhetherTheProcedureGoesOn) {
   errors->script = {1};
   EXPECT_EQ(runThreeSteps(), "123");  // 1: on with the next step
   errors->script = {2};
-  EXPECT_EQ(runThreeSteps(), "12");   // 2: leave at once
+  EXPECT_EQ(runThreeSteps(), "12");  // 2: leave at once
   errors->script = {3};
-  EXPECT_EQ(runThreeSteps(), "12");   // 3: exit hook, then leave
+  EXPECT_EQ(runThreeSteps(), "12");  // 3: exit hook, then leave
   errors->script = {7};
-  EXPECT_EQ(runThreeSteps(), "12");   // anything else: leave
+  EXPECT_EQ(runThreeSteps(), "12");  // anything else: leave
   ASSERT_EQ(errors->failures.size(), 4u);
   EXPECT_EQ(errors->shown, 4);
   EXPECT_EQ(errors->failures[0].number, err::kOverflow);
@@ -69,9 +70,10 @@ TEST_F(ProcedureTest, TraceStackFollowsNestedProcedures) {
     EXPECT_FALSE(outer.failed());
   }
   ASSERT_EQ(errors->failures.size(), 1u);
-  EXPECT_EQ(errors->failures[0].stack,
-            (std::vector<std::string>{"Orvanta.exe-nvDocumentQuillbox-setupDocumentsDisplay",
-                                      "Orvanta.exe-modDatabaseFunctions-getCompanyNameFromCompanyID"}));
+  EXPECT_EQ(
+      errors->failures[0].stack,
+      (std::vector<std::string>{"Orvanta.exe-nvDocumentQuillbox-setupDocumentsDisplay",
+                                "Orvanta.exe-modDatabaseFunctions-getCompanyNameFromCompanyID"}));
   EXPECT_TRUE(errors->stack.empty());
   EXPECT_EQ(errors->pops, 2);
 }

@@ -34,12 +34,14 @@ class CategoryObjects : public ::testing::Test {
   }
 
   // A link row straight into the store.
-  void link(int id, int category, const std::string& path, const std::string& dateAdded = "2024-05-01 09:30:00") {
-    db.exec("INSERT INTO Documents (DocumentID, CompanyIDNum, DocCategoryNum, DocIconName, DocName, "
-            "DocFileName, DocPath, DocHostComputerName, DocDateAdded, DocAddedByUserIDNum) VALUES (" +
-            std::to_string(id) + ", 1, " + std::to_string(category) + ", '" +
-            std::filesystem::path(path).filename().string() + "', 'x', 'x', '" + path +
-            "', 'FRONTDESK', '" + dateAdded + "', 3);");
+  void link(int id, int category, const std::string& path,
+            const std::string& dateAdded = "2024-05-01 09:30:00") {
+    db.exec(
+        "INSERT INTO Documents (DocumentID, CompanyIDNum, DocCategoryNum, DocIconName, DocName, "
+        "DocFileName, DocPath, DocHostComputerName, DocDateAdded, DocAddedByUserIDNum) VALUES (" +
+        std::to_string(id) + ", 1, " + std::to_string(category) + ", '" +
+        std::filesystem::path(path).filename().string() + "', 'x', 'x', '" + path +
+        "', 'FRONTDESK', '" + dateAdded + "', 3);");
   }
 
   std::string count(const std::string& table, const std::string& where) {
@@ -60,9 +62,10 @@ TEST_F(CategoryObjects, PopulateBuildsTheClientsTreeAndSelectsTheMainCategory) {
   categories.setContactIDNum(-1);
   categories.populateCategories();
 
-  EXPECT_EQ(tree.dump(),
-            "(Category:1 Main(Category:3 Taxes(Category:5 2023))(Category:9 Bank)(Category:4 letters))"
-            "(Category:2 Merge Documents)(Category:6 Archive)");
+  EXPECT_EQ(
+      tree.dump(),
+      "(Category:1 Main(Category:3 Taxes(Category:5 2023))(Category:9 Bank)(Category:4 letters))"
+      "(Category:2 Merge Documents)(Category:6 Archive)");
   ASSERT_NE(tree.SelectedItem(), nullptr);
   EXPECT_EQ(tree.SelectedItem()->Key(), "Category:1");
   EXPECT_EQ(tree.Nodes()("Category:5").Tag(), "Category:5");
@@ -79,8 +82,9 @@ TEST_F(CategoryObjects, PopulateBuildsTheClientsTreeAndSelectsTheMainCategory) {
   std::string entries;
   for (int32_t i = 0; i < combo.ListCount(); ++i)
     entries += "[" + combo.List(i) + "=" + std::to_string(combo.ItemData(i)) + "]";
-  EXPECT_EQ(entries, "[Main=1][    Taxes=3][        2023=5][    Bank=9][    letters=4]"
-                     "[Merge Documents=2][Archive=6]");
+  EXPECT_EQ(entries,
+            "[Main=1][    Taxes=3][        2023=5][    Bank=9][    letters=4]"
+            "[Merge Documents=2][Archive=6]");
 
   // Filling again starts afresh; another client shows only its own.
   categories.clearCategories();
@@ -114,7 +118,10 @@ TEST_F(CategoryObjects, LoadCategoryCountsProgressAndWalksDocumentsWithIcons) {
   int32_t maximum = -1, lastStep = 0, steps = 0, ends = 0;
   std::vector<std::string> errors;
   category.startLoadDocumentProgress = [&](int32_t& max) { maximum = max; };
-  category.incLoadDocumentProgress = [&](int32_t step) { ++steps; lastStep = step; };
+  category.incLoadDocumentProgress = [&](int32_t step) {
+    ++steps;
+    lastStep = step;
+  };
   category.endLoadDocumentProgress = [&] { ++ends; };
   category.errorLoadDocument = [&](std::string& message) { errors.push_back(message); };
   category.setCategoryID(3);
@@ -142,8 +149,7 @@ TEST_F(CategoryObjects, LoadCategoryCountsProgressAndWalksDocumentsWithIcons) {
   }
   EXPECT_EQ(walk, (std::vector<std::string>{"report.pdf application-pdf 32",
                                             "books.XLSX x-office-spreadsheet 32",
-                                            "notes.docx dialog-warning 32",
-                                            "scans.d folder 32"}));
+                                            "notes.docx dialog-warning 32", "scans.d folder 32"}));
   EXPECT_FALSE(more);
   EXPECT_EQ(category.currentDocument(), nullptr);
 

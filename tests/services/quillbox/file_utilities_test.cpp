@@ -1,7 +1,5 @@
-#include "services/util/file_utilities_class.h"
-
-#include <gtest/gtest.h>
 #include <fcntl.h>
+#include <gtest/gtest.h>
 #include <signal.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
@@ -12,6 +10,7 @@
 #include <thread>
 
 #include "services/runtime/dates.h"
+#include "services/util/file_utilities_class.h"
 #include "tests/support/temp_folder.h"
 
 namespace qb {

@@ -1,9 +1,8 @@
-#include "services/util/general_utilities_class.h"
-
 #include <gtest/gtest.h>
 
 #include "services/controls/list_view.h"
 #include "services/controls/tree_view.h"
+#include "services/util/general_utilities_class.h"
 
 namespace qb {
 namespace {
@@ -11,7 +10,8 @@ namespace {
 TEST(GeneralUtilities, CaptionsListModeAndTree) {
   generalUtilitiesClass utilities;
   EXPECT_EQ(utilities.formatCaptionText("Taxes"), "  Taxes");
-  EXPECT_EQ(utilities.formatCaptionText("Smith Holdings\r\nLtd.\tEast"), "  Smith Holdings Ltd. East");
+  EXPECT_EQ(utilities.formatCaptionText("Smith Holdings\r\nLtd.\tEast"),
+            "  Smith Holdings Ltd. East");
   EXPECT_EQ(utilities.formatCaptionText(""), "  ");
 
   ListView list("lvDocuments");

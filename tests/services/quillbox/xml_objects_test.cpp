@@ -97,8 +97,7 @@ TEST(XmlObjects, WriterPositionRules) {
   EXPECT_THROW(writer.leaveNode("Root"), RuntimeError);
   xmlWriterClass other;
   EXPECT_THROW(writer.appendNode(other.createNode("X", ""), false), RuntimeError);
-  EXPECT_EQ(writer.getXMLText(),
-            "<Root>\n  <A>\n    <B>1</B>\n  </A>\n  <C>2</C>\n</Root>\n");
+  EXPECT_EQ(writer.getXMLText(), "<Root>\n  <A>\n    <B>1</B>\n  </A>\n  <C>2</C>\n</Root>\n");
 }
 
 }  // namespace

@@ -13,8 +13,8 @@ namespace {
 std::string partsOf(double serial) {
   DateParts p = splitDate(serial);
   char text[64];
-  std::snprintf(text, sizeof text, "%04d-%02d-%02d %02d:%02d:%02d w%d", p.year, p.month, p.day, p.hour,
-                p.minute, p.second, p.weekday);
+  std::snprintf(text, sizeof text, "%04d-%02d-%02d %02d:%02d:%02d w%d", p.year, p.month, p.day,
+                p.hour, p.minute, p.second, p.weekday);
   return text;
 }
 
@@ -28,7 +28,8 @@ TEST(Dates, SerialsAndParts) {
   EXPECT_EQ(DateSerial(51, 6, 25), DateSerial(1951, 6, 25));
   EXPECT_EQ(partsOf(DateSerial(2026, 11, 23) + TimeSerial(14, 5, 9)), "2026-11-23 14:05:09 w2");
   EXPECT_EQ(partsOf(0), "1899-12-30 00:00:00 w7");
-  EXPECT_EQ(partsOf(-1.25), "1899-12-29 06:00:00 w6");  // the fraction is the time, whatever the sign
+  EXPECT_EQ(partsOf(-1.25),
+            "1899-12-29 06:00:00 w6");  // the fraction is the time, whatever the sign
   EXPECT_EQ(partsOf(-0.9999999999), "1899-12-29 00:00:00 w6");
   EXPECT_EQ(partsOf(2.9999999999), "1900-01-02 00:00:00 w3");
 
@@ -38,8 +39,10 @@ TEST(Dates, SerialsAndParts) {
   tzset();
   EXPECT_EQ(fromTimeT(0), DateSerial(1970, 1, 1));
   EXPECT_EQ(partsOf(fromTimeT(1795442700)), "2026-11-23 14:05:00 w2");
-  if (zone != nullptr) setenv("TZ", saved.c_str(), 1);
-  else unsetenv("TZ");
+  if (zone != nullptr)
+    setenv("TZ", saved.c_str(), 1);
+  else
+    unsetenv("TZ");
   tzset();
 }
 

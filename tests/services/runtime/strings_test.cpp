@@ -10,7 +10,9 @@ namespace {
 TEST(Strings, PositionsCountCharacters) {
   EXPECT_EQ(Len("«Name»"), 6);
   EXPECT_EQ(Len(""), 0);
-  EXPECT_EQ(Len("\xff" "a"), 2);  // a stray byte is a character of its own
+  EXPECT_EQ(Len("\xff"
+                "a"),
+            2);  // a stray byte is a character of its own
   EXPECT_EQ(Left("«Name»", 2), "«N");
   EXPECT_EQ(Left("ab", 5), "ab");
   EXPECT_EQ(Right("Hélène", 3), "ène");
