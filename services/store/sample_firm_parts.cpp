@@ -119,45 +119,37 @@ void writeFirm(SampleWriter& out) {
     std::string email = std::string(e.userName) + "@rideauvalleyaccounting.example";
     std::string phone = std::string(kFirmPhone) + " x" + e.extension;
     const char* address = e.inherit ? "" : kFirmAddress;
-    out.insert("Contacts", {{"ContactID", id},
-                            {"FirstName", e.first},
-                            {"LastName", e.last},
-                            {"DisplayName", display},
-                            {"ContactPersonalTaxDisplayType", 1},
-                            {"InheritCompanyInfo", e.inherit ? 1 : 0},
-                            {"BusinessName", kFirmName},
-                            {"BusinessJobTitle", e.title},
-                            {"BusinessPhone_Main", phone},
-                            {"BusinessPhone_Fax", kFirmFax},
-                            {"BusinessEmail", email},
-                            {"BusinessAddress", address},
-                            {"BusinessCity", e.inherit ? "" : "Ottawa"},
-                            {"BusinessProvince", e.inherit ? "" : "ON"},
-                            {"BusinessPostalCode", e.inherit ? "" : "K2P 1L5"},
-                            {"BusinessCountry", "Canada"}});
-    out.insert(
-        "AccountantEmployeeInfo",
-        {{"ContactID", id},
-         {"UserName", e.userName},
-         {"FirstName", e.first},
-         {"LastName", e.last},
-         {"DisplayName", display},
-         {"InheritCompanyInfo", e.inherit ? 1 : 0},
+    // The names and business particulars an employee has in both tables.
+    const std::vector<Field> names = {{"ContactID", id},
+                                      {"FirstName", e.first},
+                                      {"LastName", e.last},
+                                      {"DisplayName", display},
+                                      {"InheritCompanyInfo", e.inherit ? 1 : 0}};
+    const std::vector<Field> business = {{"BusinessName", kFirmName},
+                                         {"BusinessJobTitle", e.title},
+                                         {"BusinessPhone_Main", phone},
+                                         {"BusinessPhone_Fax", kFirmFax},
+                                         {"BusinessEmail", email},
+                                         {"BusinessAddress", address},
+                                         {"BusinessCity", e.inherit ? "" : "Ottawa"},
+                                         {"BusinessProvince", e.inherit ? "" : "ON"},
+                                         {"BusinessPostalCode", e.inherit ? "" : "K2P 1L5"},
+                                         {"BusinessCountry", "Canada"}};
+    std::vector<Field> contact = names;
+    contact.insert(contact.end(), {{"ContactPersonalTaxDisplayType", 1}});
+    contact.insert(contact.end(), business.begin(), business.end());
+    out.insert("Contacts", contact);
+    std::vector<Field> employee = names;
+    employee.insert(employee.end(), business.begin(), business.end());
+    employee.insert(
+        employee.end(),
+        {{"UserName", e.userName},
          {"EmployeeType", n == 4 ? "Part-Time" : "Full-Time"},
-         {"BusinessName", kFirmName},
-         {"BusinessJobTitle", e.title},
          {"BusinessDepartment", n < 4 ? "Assurance and Tax" : "Administration"},
          {"BusinessOffice", std::string("Office ") + e.extension},
-         {"BusinessPhone_Main", phone},
-         {"BusinessPhone_Fax", kFirmFax},
-         {"BusinessEmail", email},
-         {"BusinessAddress", address},
-         {"BusinessCity", e.inherit ? "" : "Ottawa"},
-         {"BusinessProvince", e.inherit ? "" : "ON"},
-         {"BusinessPostalCode", e.inherit ? "" : "K2P 1L5"},
-         {"BusinessCountry", "Canada"},
          {"Custom1", n == 0 ? "Signing authority" : ""},
          {"Notes", n == 0 ? "Partner in charge of corporate files.\r\nAway in August." : ""}});
+    out.insert("AccountantEmployeeInfo", employee);
     out.insert(
         "ContactLinks",
         {{"ContactIDNum", id}, {"CompanyNum", kFirmCompanyID}, {"DefaultContact", n == 0 ? 1 : 0}});
