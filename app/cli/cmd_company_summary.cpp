@@ -51,6 +51,7 @@ const CommandRegistration kRegistration(Command{
     {"db", "company", "contact"},
     {},
     runCompanySummary,
+    true,  // writes
 });
 
 }  // namespace

@@ -30,6 +30,7 @@ const CommandRegistration kRegistration(Command{
     {"db", "company"},
     {},
     runDefaultContact,
+    true,  // writes
 });
 
 }  // namespace

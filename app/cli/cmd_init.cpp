@@ -62,6 +62,7 @@ const CommandRegistration kRegistration(Command{
     {"db", "generate", "files"},
     {"sample", "force"},
     runInit,
+    true,  // writes
 });
 
 }  // namespace

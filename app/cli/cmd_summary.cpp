@@ -45,6 +45,7 @@ const CommandRegistration kRegistration(Command{
     {"db", "contact", "employee", "company"},
     {"skip-other-companies"},
     runSummary,
+    true,  // writes
 });
 
 }  // namespace

@@ -1,7 +1,8 @@
 #pragma once
 // The quillbox tool's commands. Each command lives in a file of its own and
 // registers itself with a static CommandRegistration; main.cpp parses the
-// global flags, finds the command and runs it.
+// global flags, finds the command and runs it. A command of a group is named
+// with both words ("lookup fill-all", "links check") and called the same way.
 
 #include <functional>
 #include <map>
@@ -50,6 +51,9 @@ struct Command {
   std::vector<std::string> valueOptions;  // options that take a value, without "--"
   std::vector<std::string> flagOptions;   // options without a value
   std::function<int(Context&)> run;       // returns the exit status
+  // The command changes the database. A command that only reads leaves this
+  // false: its session opens the database read-only.
+  bool writes = false;
 };
 
 std::vector<Command>& commandRegistry();

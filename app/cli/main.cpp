@@ -42,6 +42,25 @@ const Command* findCommand(const std::string& name) {
   return nullptr;
 }
 
+// A group is the first word of commands named with two words.
+bool isGroup(const std::string& word) {
+  for (const Command& command : commandRegistry()) {
+    if (command.name.rfind(word + " ", 0) == 0) return true;
+  }
+  return false;
+}
+
+std::string groupList(const std::string& word) {
+  std::vector<std::string> names;
+  for (const Command& command : commandRegistry()) {
+    if (command.name.rfind(word + " ", 0) == 0) names.push_back(command.name);
+  }
+  std::sort(names.begin(), names.end());
+  std::string text;
+  for (const std::string& name : names) text += "\n  " + name;
+  return text;
+}
+
 bool contains(const std::vector<std::string>& list, const std::string& name) {
   return std::find(list.begin(), list.end(), name) != list.end();
 }
@@ -92,6 +111,13 @@ int main(int argc, char** argv) {
         }
       } else if (command == nullptr) {
         command = findCommand(word);
+        if (command == nullptr && i + 1 < words.size()) {
+          command = findCommand(word + " " + words[i + 1]);
+          if (command != nullptr) ++i;
+        }
+        if (command == nullptr && isGroup(word)) {
+          throw UsageError("'" + word + "' needs one of its commands:" + groupList(word));
+        }
         if (command == nullptr) throw UsageError("unknown command '" + word + "'");
       } else {
         throw UsageError("unexpected argument '" + word + "'");
