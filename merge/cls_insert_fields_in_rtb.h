@@ -204,6 +204,10 @@ class clsInsertFieldsInRTB {
  private:
   friend class CatalogueBuilder;
 
+  // The first row whose fromColumn holds name (any case) gives its toColumn;
+  // name itself when no row does. The row found stays current.
+  std::string translateName(const char* procedure, int32_t fromColumn, int32_t toColumn,
+                            const std::string& name);
   // Reads RTB's caret, then inserts the text there, as a list pick does.
   Variant insertAtCaret(const char* procedure, const std::function<std::string()>& text);
 

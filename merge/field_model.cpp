@@ -93,27 +93,27 @@ bool clsInsertFieldsInRTB::verifyFieldListIsPopulated() {
   return rowsOnEntry > 0;
 }
 
-std::string clsInsertFieldsInRTB::getDBFieldNameFromDisplayFieldName(
-    std::string& fieldDisplayName) {
-  Procedure proc(merge::traceName("getDBFieldNameFromDisplayFieldName"));
-  std::string result = fieldDisplayName;
+std::string clsInsertFieldsInRTB::translateName(const char* procedure, int32_t fromColumn,
+                                                int32_t toColumn, const std::string& name) {
+  Procedure proc(merge::traceName(procedure));
+  std::string result = name;
   proc.step([&] {
-    if (fieldList_.findFieldRow(fieldDisplayNameColumn, Variant(fieldDisplayName)) >= 0) {
-      result = columnText(fieldList_, fieldNameColumn);
+    if (fieldList_.findFieldRow(fromColumn, Variant(name)) >= 0) {
+      result = columnText(fieldList_, toColumn);
     }
   });
   return result;
 }
 
+std::string clsInsertFieldsInRTB::getDBFieldNameFromDisplayFieldName(
+    std::string& fieldDisplayName) {
+  return translateName("getDBFieldNameFromDisplayFieldName", fieldDisplayNameColumn,
+                       fieldNameColumn, fieldDisplayName);
+}
+
 std::string clsInsertFieldsInRTB::getDisplayFieldNameFromDBFieldName(std::string& fieldName) {
-  Procedure proc(merge::traceName("getDisplayFieldNameFromDBFieldName"));
-  std::string result = fieldName;
-  proc.step([&] {
-    if (fieldList_.findFieldRow(fieldNameColumn, Variant(fieldName)) >= 0) {
-      result = columnText(fieldList_, fieldDisplayNameColumn);
-    }
-  });
-  return result;
+  return translateName("getDisplayFieldNameFromDBFieldName", fieldNameColumn,
+                       fieldDisplayNameColumn, fieldName);
 }
 
 std::string clsInsertFieldsInRTB::getDBFieldFromListItem(int32_t listItem) {

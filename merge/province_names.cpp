@@ -40,36 +40,34 @@ constexpr ProvinceName kProvinceNames[] = {
     {{"YUKON", "YT"}, "YT", "Yukon"},
 };
 
-const ProvinceName* findProvince(const std::string& province) {
-  const std::string upper = UCase(province);
-  for (const ProvinceName& row : kProvinceNames) {
-    for (const char* form : row.forms) {
-      if (form != nullptr && upper == form) return &row;
+// The column of the first row that has the text, or the text as it came.
+std::string provinceForm(const char* procedure, const std::string& province,
+                         const char* ProvinceName::*column) {
+  Procedure proc(merge::traceName(procedure));
+  std::string result;
+  proc.step([&] {
+    const std::string upper = UCase(province);
+    result = province;
+    for (const ProvinceName& row : kProvinceNames) {
+      for (const char* form : row.forms) {
+        if (form != nullptr && upper == form) {
+          result = row.*column;
+          return;
+        }
+      }
     }
-  }
-  return nullptr;
+  });
+  return result;
 }
 
 }  // namespace
 
 std::string clsInsertFieldsInRTB::getAbbreviatedProvince(const std::string& province) {
-  Procedure proc(merge::traceName("getAbbreviatedProvince"));
-  std::string result;
-  proc.step([&] {
-    const ProvinceName* row = findProvince(province);
-    result = row != nullptr ? row->abbreviated : province;
-  });
-  return result;
+  return provinceForm("getAbbreviatedProvince", province, &ProvinceName::abbreviated);
 }
 
 std::string clsInsertFieldsInRTB::getFullProvinceString(const std::string& province) {
-  Procedure proc(merge::traceName("getFullProvinceString"));
-  std::string result;
-  proc.step([&] {
-    const ProvinceName* row = findProvince(province);
-    result = row != nullptr ? row->full : province;
-  });
-  return result;
+  return provinceForm("getFullProvinceString", province, &ProvinceName::full);
 }
 
 }  // namespace qb

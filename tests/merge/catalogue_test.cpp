@@ -27,6 +27,9 @@ TEST_F(Catalogue, SizesByRegionAndUse) {
       {"Ontario mapping", 1, 3, 3, 7 + 70, 25, 28},
       {"Quebec mapping", 1, 8, 3, 7 + 70, 24, 28},
       {"US mapping", 2, 3, 3, 7 + 70, 11, 28},
+      // Uses that mean nothing build the ordinary list.
+      {"use 4", 1, 3, 4, 8 + 66, 25, 26},
+      {"use -1", 2, 3, -1, 8 + 62, 11, 24},
   };
   for (const SizeCase& c : cases) {
     SCOPED_TRACE(c.region);

@@ -4,7 +4,6 @@
 #include <gtest/gtest.h>
 
 #include <climits>
-#include <functional>
 
 #include "services/controls/rich_text_box.h"
 #include "services/errors/runtime_error.h"
@@ -12,18 +11,12 @@
 #include "services/util/duration_text.h"
 #include "services/util/field_list_class.h"
 #include "services/util/rich_text_insert_class.h"
+#include "tests/services/controls/error_number.h"
 
 namespace qb {
 namespace {
 
-int32_t failureNumber(const std::function<void()>& call) {
-  try {
-    call();
-  } catch (const RuntimeError& error) {
-    return error.number();
-  }
-  return 0;
-}
+using test::errorNumber;
 
 TEST(FieldTable, RowsAreFoundByIndexOrByAColumnIgnoringCase) {
   FieldListClass table;
@@ -52,9 +45,9 @@ TEST(FieldTable, RowsAreFoundByIndexOrByAColumnIgnoringCase) {
   EXPECT_FALSE(table.moveToFieldRow(index));
   EXPECT_EQ(toText(table.getFieldColumn(2)), "Spouse Gender");
 
-  EXPECT_EQ(failureNumber([&] { table.getFieldColumn(25); }), err::kSubscript);
-  EXPECT_EQ(failureNumber([&] { table.findFieldRow(0, Variant("x")); }), err::kSubscript);
-  EXPECT_EQ(failureNumber([&] { table.addFieldRow(index, std::vector<Variant>(25)); }),
+  EXPECT_EQ(errorNumber([&] { table.getFieldColumn(25); }), err::kSubscript);
+  EXPECT_EQ(errorNumber([&] { table.findFieldRow(0, Variant("x")); }), err::kSubscript);
+  EXPECT_EQ(errorNumber([&] { table.addFieldRow(index, std::vector<Variant>(25)); }),
             err::kInvalidCall);
   table.addFieldRow(index, std::vector<Variant>(24, Variant("x")));
   EXPECT_TRUE(table.moveToFieldRow(index));
