@@ -32,7 +32,7 @@ void printToolHelp(std::ostream& out) {
             [](const Command& a, const Command& b) { return a.name < b.name; });
   for (const Command& command : commands) {
     out << "  " << command.name
-        << std::string(command.name.size() < 16 ? 16 - command.name.size() : 1, ' ')
+        << std::string(command.name.size() < 18 ? 18 - command.name.size() : 1, ' ')
         << command.summary << "\n";
   }
   out << "\n" << kGlobalHelp << "\nRun 'quillbox COMMAND --help' for a command's options.\n";
