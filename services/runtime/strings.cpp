@@ -147,26 +147,40 @@ bool sameBytesIgnoringAsciiCase(const char* a, const char* b, size_t length) {
   return true;
 }
 
-// The search of findText for a byte-comparable find, already in lower case:
-// the candidates are the places of its first byte in either case.
+// The search of findText for a byte-comparable find, already in lower case.
+// The candidates are the places of one byte of the find, in either case: the
+// first byte that is no letter, digit, blank or backslash (rare in letters
+// and in RTF source alike: the quote of "\\'ab", the first byte of "«"), else
+// the first byte.
 size_t findByteComparable(std::string_view text, std::string_view lowered, size_t from) {
-  const unsigned char first = static_cast<unsigned char>(lowered[0]);
+  size_t anchor = 0;
+  for (size_t i = 0; i < lowered.size(); ++i) {
+    const unsigned char c = static_cast<unsigned char>(lowered[i]);
+    const bool plain = (c >= 'a' && c <= 'z') || (c >= '0' && c <= '9') || c == ' ' || c == '\\';
+    if (!plain) {
+      anchor = i;
+      break;
+    }
+  }
+  const unsigned char first = static_cast<unsigned char>(lowered[anchor]);
   const unsigned char other = first >= 'a' && first <= 'z' ? first - 32 : first;
-  const size_t last = text.size() - lowered.size();  // the last place a match can start
   const char* data = text.data();
+  const size_t end =
+      text.size() - lowered.size() + anchor + 1;  // past the last place of the anchor
   auto next = [&](unsigned char byte, size_t at) -> size_t {
-    const void* hit = std::memchr(data + at, byte, last + 1 - at);
+    if (at >= end) return std::string_view::npos;
+    const void* hit = std::memchr(data + at, byte, end - at);
     return hit == nullptr ? std::string_view::npos : static_cast<const char*>(hit) - data;
   };
-  size_t lower = next(first, from);
-  size_t upper = other == first ? std::string_view::npos : next(other, from);
+  size_t lower = next(first, from + anchor);
+  size_t upper = other == first ? std::string_view::npos : next(other, from + anchor);
   while (lower != std::string_view::npos || upper != std::string_view::npos) {
     const bool useLower =
         upper == std::string_view::npos || (lower != std::string_view::npos && lower < upper);
     const size_t at = useLower ? lower : upper;
-    if (sameBytesIgnoringAsciiCase(data + at + 1, lowered.data() + 1, lowered.size() - 1))
-      return at;
-    if (at == last) break;
+    if (sameBytesIgnoringAsciiCase(data + at - anchor, lowered.data(), lowered.size())) {
+      return at - anchor;
+    }
     if (useLower) {
       lower = next(first, at + 1);
     } else {
