@@ -125,8 +125,11 @@ std::string clsInsertFieldsInRTB::createDisplayTextByID() {
     merged = parseRTBComment();
     DatabaseReference& store = merge::store();
     merge::yieldBeforeFind();
+    // Without a store the merge opened nothing, and the item has no text
+    // of its own to add.
     const RecordsetHandle item = this->*kind->recordset;
-    if (store.findRecord(item, kind->key, std::to_string(this->*kind->itemID))) {
+    if (store.isRecordsetOpen(item) &&
+        store.findRecord(item, kind->key, std::to_string(this->*kind->itemID))) {
       before = toText(store.getFieldValue(item, Variant("BeforeAppointmentText")));
       after = toText(store.getFieldValue(item, Variant("AfterAppointmentText")));
     }

@@ -38,8 +38,8 @@ class Differential : public MergeTest {
     // Labels that look like other markers: a simple field whose name is a
     // date form of another, one with a comma and blanks.
     db.exec(
-        "INSERT INTO CustomAddressFields (ContactLabel1, ContactLabel2, CompanyLabel1) VALUES "
-        "('(Year End Date, d)', 'Ref, No:', '(Contact Birthday, dddd)');");
+        "UPDATE CustomAddressFields SET ContactLabel1 = '(Year End Date, d)', ContactLabel2 = "
+        "'Ref, No:', ContactLabel3 = '', CompanyLabel1 = '(Contact Birthday, dddd)';");
   }
 
   // The names of the table's fields, simple and dated.

@@ -4,7 +4,8 @@
 // client data, its default contact Ann Lee (7) who inherits the company's
 // details, a contact on her own (8), an employee (3), an appointment (11), a
 // task with its schedule row (31) and one without (32), an archived task
-// (old id 90), a time entry (41), and the calendar settings of users 1 and 2.
+// (old id 90), a time entry (41), the labels of the custom columns (left at
+// their defaults), and the calendar settings of users 1 and 2.
 
 #include "tests/support/test_database.h"
 
@@ -62,6 +63,12 @@ INSERT INTO UserCalendarSettings (UserIDNum, ApptTemplate, ApptTitleBarText, Doc
   DocketTitleBarText, TaskTemplate, TaskTitleBarText) VALUES (1,
   '«Appointment Name» with «Contact Display Name»', 'Appointment Name', 'Text Constant', '',
   '«Task Name» «Bad Field', 'Task «Company Name»');
+INSERT INTO CustomFields (CustomFieldID, CustomName1, CustomName2, CustomName3, CustomName4,
+  CustomName5) VALUES (1, 'Custom 1:', 'Custom 2:', 'Custom 3:', 'Custom 4:', 'Custom 5:');
+INSERT INTO CustomAddressFields (CustomAddressFieldID, ContactLabel1, ContactLabel2,
+  ContactLabel3, ContactLabel4, ContactLabel5, CompanyLabel1, CompanyLabel2, CompanyLabel3,
+  CompanyLabel4, CompanyLabel5) VALUES (1, 'Custom 1', 'Custom 2', 'Custom 3', 'Custom 4',
+  'Custom 5', 'Custom 1', 'Custom 2', 'Custom 3', 'Custom 4', 'Custom 5');
 INSERT INTO UserCalendarSettings (UserIDNum, ApptTemplate, DocketTemplate, TaskTemplate)
   VALUES (2, '0', '0', '0');
 )SQL");
