@@ -147,19 +147,28 @@ bool sameBytesIgnoringAsciiCase(const char* a, const char* b, size_t length) {
   return true;
 }
 
+// How common a byte (in lower case) is in letters and in RTF source: the
+// search looks for the least common byte of the find first. Letters by
+// their frequency in English text; blanks, backslashes and digits are
+// common; other signs (a quote, "«" and "»") are rare.
+int commonness(unsigned char c) {
+  static constexpr char kLettersRareFirst[] = "zqxjkvbpygfwmucldrhsnioate";
+  if (c >= 'a' && c <= 'z') {
+    return 10 + static_cast<int>(std::strchr(kLettersRareFirst, c) - kLettersRareFirst);
+  }
+  if (c == ' ' || c == '\\' || (c >= '0' && c <= '9')) return 40;
+  return 0;
+}
+
 // The search of findText for a byte-comparable find, already in lower case.
-// The candidates are the places of one byte of the find, in either case: the
-// first byte that is no letter, digit, blank or backslash (rare in letters
-// and in RTF source alike: the quote of "\\'ab", the first byte of "«"), else
-// the first byte.
+// The candidates are the places of the find's least common byte, in either
+// case.
 size_t findByteComparable(std::string_view text, std::string_view lowered, size_t from) {
   size_t anchor = 0;
-  for (size_t i = 0; i < lowered.size(); ++i) {
-    const unsigned char c = static_cast<unsigned char>(lowered[i]);
-    const bool plain = (c >= 'a' && c <= 'z') || (c >= '0' && c <= '9') || c == ' ' || c == '\\';
-    if (!plain) {
+  for (size_t i = 1; i < lowered.size(); ++i) {
+    if (commonness(static_cast<unsigned char>(lowered[i])) <
+        commonness(static_cast<unsigned char>(lowered[anchor]))) {
       anchor = i;
-      break;
     }
   }
   const unsigned char first = static_cast<unsigned char>(lowered[anchor]);
@@ -297,6 +306,18 @@ size_t findText(std::string_view text, std::string_view find, size_t from) {
   const std::string haystack = fold(text.substr(from));
   const size_t found = haystack.find(fold(find));
   return found == std::string::npos ? std::string_view::npos : found + from;
+}
+
+bool matchesTextAt(std::string_view text, size_t at, std::string_view find) {
+  if (at > text.size() || find.size() > text.size() - at) return false;
+  if (!byteComparable(find)) return fold(text.substr(at, find.size())) == fold(find);
+  for (size_t i = 0; i < find.size(); ++i) {
+    if (lowerAscii(static_cast<unsigned char>(text[at + i])) !=
+        lowerAscii(static_cast<unsigned char>(find[i]))) {
+      return false;
+    }
+  }
+  return true;
 }
 
 int32_t InStr(int32_t start, const std::string& text, const std::string& find, CompareMode mode) {

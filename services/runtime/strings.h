@@ -49,6 +49,10 @@ inline int32_t InStr(const std::string& text, const std::string& find,
 // compares; npos when there is none. An empty find gives from.
 size_t findText(std::string_view text, std::string_view find, size_t from = 0);
 
+// True when find stands in text at the byte offset at (a character
+// boundary), compared as the Text compare does.
+bool matchesTextAt(std::string_view text, size_t at, std::string_view find);
+
 // Replaces every occurrence of find by replacement, left to right, without
 // rescanning the replacement.
 std::string Replace(const std::string& text, const std::string& find,
