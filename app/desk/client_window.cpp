@@ -14,6 +14,7 @@
 
 #include "app/desk/client_picker_dialog.h"
 #include "app/desk/dialog_error_object.h"
+#include "app/desk/merge_document_window.h"
 #include "app/desk/merge_fields_window.h"
 #include "control/nv_document_quillbox.h"
 #include "data/mod_database_functions.h"
@@ -116,6 +117,8 @@ void ClientWindow::buildMenus() {
   QMenu* tools = menuBar()->addMenu("&Tools");
   tools->addAction(QIcon::fromTheme("insert-text"), "&Merge Fields…", this,
                    [this] { openMergeFieldsWindow(*this); });
+  tools->addAction(QIcon::fromTheme("x-office-document"), "Merge &Document…", this,
+                   [this] { chooseMergeDocument(*this); });
 }
 
 bool ClientWindow::openDatabase(const QString& path) {
