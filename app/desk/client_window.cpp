@@ -18,6 +18,7 @@
 #include "data/mod_database_functions.h"
 #include "gui/message_box_object.h"
 #include "gui/qt_platform.h"
+#include "gui/theme_icons.h"
 #include "gui/user_control_host.h"
 #include "gui/widget_owner_form.h"
 #include "services/host/locale_reference.h"
@@ -56,7 +57,7 @@ ClientWindow::ClientWindow(const DeskOptions& options, QWidget* parent)
     messages_->setUnattended(&std::cerr);
   }
   setWindowTitle("Client Documents");
-  setWindowIcon(QIcon::fromTheme("x-office-address-book"));
+  setWindowIcon(gui::programIcon());
   auto* central = new QWidget(this);
   auto* layout = new QVBoxLayout(central);
   layout->setContentsMargins(4, 4, 4, 0);
@@ -74,25 +75,25 @@ ClientWindow::~ClientWindow() { releaseComponent(); }
 
 void ClientWindow::buildMenus() {
   QMenu* file = menuBar()->addMenu("&File");
-  QAction* open = file->addAction(QIcon::fromTheme("document-open"), "&Open Database…", this,
+  QAction* open = file->addAction(gui::themeIcon("document-open"), "&Open Database…", this,
                                   [this] { chooseDatabase(); });
   open->setShortcut(QKeySequence::Open);
   file->addSeparator();
   QAction* quit =
-      file->addAction(QIcon::fromTheme("application-exit"), "&Quit", this, [this] { close(); });
+      file->addAction(gui::themeIcon("application-exit"), "&Quit", this, [this] { close(); });
   quit->setShortcut(QKeySequence::Quit);
 
   QMenu* client = menuBar()->addMenu("&Client");
-  client->addAction(QIcon::fromTheme("go-first"), "&First Client", QKeySequence("Alt+Home"), this,
+  client->addAction(gui::themeIcon("go-first"), "&First Client", QKeySequence("Alt+Home"), this,
                     [this] { moveTo(0); });
-  client->addAction(QIcon::fromTheme("go-previous"), "&Previous Client", QKeySequence("Alt+PgUp"),
+  client->addAction(gui::themeIcon("go-previous"), "&Previous Client", QKeySequence("Alt+PgUp"),
                     this, [this] { moveTo(current_ - 1); });
-  client->addAction(QIcon::fromTheme("go-next"), "&Next Client", QKeySequence("Alt+PgDown"), this,
+  client->addAction(gui::themeIcon("go-next"), "&Next Client", QKeySequence("Alt+PgDown"), this,
                     [this] { moveTo(current_ + 1); });
-  client->addAction(QIcon::fromTheme("go-last"), "&Last Client", QKeySequence("Alt+End"), this,
+  client->addAction(gui::themeIcon("go-last"), "&Last Client", QKeySequence("Alt+End"), this,
                     [this] { moveTo(roster_.size() - 1); });
   client->addSeparator();
-  client->addAction(QIcon::fromTheme("edit-find"), "F&ind Client…", QKeySequence::Find, this,
+  client->addAction(gui::themeIcon("edit-find"), "F&ind Client…", QKeySequence::Find, this,
                     [this] { findClient(); });
 
   QMenu* view = menuBar()->addMenu("&View");
@@ -107,10 +108,9 @@ void ClientWindow::buildMenus() {
     });
   }
   view->addSeparator();
-  view->addAction(QIcon::fromTheme("view-refresh"), "&Refresh", QKeySequence::Refresh, this,
-                  [this] {
-                    if (component_) component_->setupDocumentsDisplay();
-                  });
+  view->addAction(gui::themeIcon("view-refresh"), "&Refresh", QKeySequence::Refresh, this, [this] {
+    if (component_) component_->setupDocumentsDisplay();
+  });
 }
 
 bool ClientWindow::openDatabase(const QString& path) {
