@@ -2,6 +2,7 @@
 
 #include <QStyleOptionButton>
 #include <QStylePainter>
+#include <algorithm>
 #include <string_view>
 
 #include "gui/theme_icons.h"
@@ -24,9 +25,10 @@ constexpr ButtonIcon kButtonIcons[] = {
     {"cmdClientNav", 4, "edit-find"}, {"cmdDocManager", 4, "folder-new"},
 };
 
-// Room between the label and the button's edge when the style's own margins
-// leave too little for the caption.
-constexpr int kTightMargin = 2;
+// The narrowest a caption is set to fit its button, in percent of its width.
+constexpr int kNarrowestStretch = 85;
+// Room kept between a caption and the button's frame.
+constexpr int kLabelPadding = 3;
 // Room between an icon and the caption beside it.
 constexpr int kIconSpacing = 4;
 
@@ -63,20 +65,32 @@ int PressButtonWidget::labelWidth(const QStyleOptionButton& option) const {
 void PressButtonWidget::paintEvent(QPaintEvent* event) {
   QStyleOptionButton option;
   initStyleOption(&option);
-  const QRect contents = style()->subElementRect(QStyle::SE_PushButtonContents, &option, this);
-  if (labelWidth(option) <= contents.width()) {
+  const QRect contents = style()
+                             ->subElementRect(QStyle::SE_PushButtonContents, &option, this)
+                             .adjusted(kLabelPadding, 0, -kLabelPadding, 0);
+  if (option.text.isEmpty() || labelWidth(option) <= contents.width()) {
     QPushButton::paintEvent(event);
     return;
   }
-  // The layout gives the button its width; a caption that does not fit in
-  // the style's margins gets the whole face, and is cut short with an
-  // ellipsis only when even that is too narrow.
+  // The layout gives the button its width. A caption that does not fit is
+  // set a little narrower, as far as it still reads well, and cut short
+  // with an ellipsis only beyond that.
+  const QStyleOptionButton bevel = option;
+  QFont narrower = font();
+  for (int stretch = 99; stretch >= kNarrowestStretch; --stretch) {
+    narrower.setStretch(stretch);
+    option.fontMetrics = QFontMetrics(narrower);
+    if (labelWidth(option) <= contents.width()) break;
+  }
+  if (labelWidth(option) > contents.width()) {
+    const int iconPart = labelWidth(option) - option.fontMetrics.horizontalAdvance(option.text);
+    option.text =
+        option.fontMetrics.elidedText(option.text, Qt::ElideRight, contents.width() - iconPart);
+  }
+  option.rect = contents;
   QStylePainter painter(this);
-  painter.drawControl(QStyle::CE_PushButtonBevel, option);
-  option.rect = rect().adjusted(kTightMargin, 0, -kTightMargin, 0);
-  const int room = option.rect.width() -
-                   (labelWidth(option) - option.fontMetrics.horizontalAdvance(option.text));
-  option.text = option.fontMetrics.elidedText(option.text, Qt::ElideRight, room);
+  painter.drawControl(QStyle::CE_PushButtonBevel, bevel);
+  painter.setFont(narrower);
   painter.drawControl(QStyle::CE_PushButtonLabel, option);
 }
 

@@ -3,9 +3,8 @@
 // click runs the model's click (which raises Click when the button is
 // enabled and visible). The buttons of the document component carry icons
 // (theme_icons.h): arrows on the client navigation, a magnifier on the
-// search buttons. A caption wider than the style's margins allow is drawn
-// over the whole face of the button, so the fixed widths of the layout don't
-// cut it.
+// search buttons. A caption a little wider than the button, whose width the
+// layout fixes, is set narrower to fit rather than cut.
 
 #include <QPushButton>
 

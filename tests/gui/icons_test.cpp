@@ -83,7 +83,7 @@ TEST(ShippedIcons, EveryIconTheProgramAsksForDrawsAtEverySize) {
     EXPECT_TRUE(draws(icon, 16)) << name;
     EXPECT_TRUE(draws(icon, 32)) << name;
     // Drawn from the SVG for a high-resolution screen.
-    EXPECT_EQ(icon.pixmap(QSize(64, 64)).size(), QSize(64, 64)) << name;
+    EXPECT_EQ(icon.pixmap(QSize(64, 64), 1.0).size(), QSize(64, 64)) << name;
     EXPECT_TRUE(draws(icon, 64)) << name;
   }
   EXPECT_TRUE(draws(gui::programIcon(), 48));
