@@ -1,7 +1,10 @@
 #include "tests/gui/desk_fixture.h"
 
 #include <QApplication>
+#include <QElapsedTimer>
 #include <QMouseEvent>
+#include <QThread>
+#include <QWindow>
 #include <cstdlib>
 
 #include "gui/theme_icons.h"
@@ -43,7 +46,7 @@ void DeskTest::SetUp() {
   window_ = std::make_unique<desk::ClientWindow>(options);
   window_->resize(1100, 720);
   window_->show();
-  settle();
+  waitUntilPlaced(*window_);
   ASSERT_NE(window_->component(), nullptr);
 }
 
@@ -51,6 +54,22 @@ void DeskTest::TearDown() { window_.reset(); }
 
 void settle() {
   for (int i = 0; i < 4; ++i) QApplication::processEvents();
+}
+
+void waitUntilPlaced(QWidget& window) {
+  // On a real X server the window manager maps and places the window in its
+  // own time; offscreen it is there at once.
+  QElapsedTimer waited;
+  waited.start();
+  QPoint last(-1, -1);
+  while (waited.elapsed() < 3000) {
+    QApplication::processEvents(QEventLoop::AllEvents, 20);
+    const QPoint place = window.mapToGlobal(QPoint(0, 0));
+    if (window.windowHandle() && window.windowHandle()->isExposed() && place == last) break;
+    last = place;
+    QThread::msleep(20);
+  }
+  settle();
 }
 
 QWidget& DeskTest::widgetOf(const Control& control) {

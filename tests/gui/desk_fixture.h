@@ -23,6 +23,8 @@ namespace qb::test {
 void ensureApplication();
 // Lets posted events (layout, paints) run.
 void settle();
+// Waits until a window just shown is on the screen where it stays.
+void waitUntilPlaced(QWidget& window);
 // One mouse event of type at a point of target.
 void mouse(QWidget& target, QEvent::Type type, const QPoint& at, Qt::MouseButton button,
            Qt::MouseButtons held);
