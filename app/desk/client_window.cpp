@@ -14,8 +14,10 @@
 
 #include "app/desk/client_picker_dialog.h"
 #include "app/desk/dialog_error_object.h"
+#include "app/desk/window_state.h"
 #include "control/nv_document_quillbox.h"
 #include "data/mod_database_functions.h"
+#include "gui/file_dialogs.h"
 #include "gui/message_box_object.h"
 #include "gui/qt_platform.h"
 #include "gui/theme_icons.h"
@@ -67,8 +69,12 @@ ClientWindow::ClientWindow(const DeskOptions& options, QWidget* parent)
   documentStatus_ = new QLabel(this);
   statusBar()->addPermanentWidget(clientStatus_);
   statusBar()->addPermanentWidget(documentStatus_);
-  resize(1100, 720);
-  if (!options_.databasePath.empty()) openDatabase(QString::fromStdString(options_.databasePath));
+  restoreWindowGeometry(*this, QSize(1100, 720));
+  // Without a database named, the one open last time.
+  const QString database = options_.databasePath.empty()
+                               ? lastDatabase()
+                               : QString::fromStdString(options_.databasePath);
+  if (!database.isEmpty()) openDatabase(database);
 }
 
 ClientWindow::~ClientWindow() { releaseComponent(); }
@@ -134,6 +140,7 @@ bool ClientWindow::openDatabase(const QString& path) {
   locale_->ownerForm = owner_.get();
   hostComponent();
   statusBar()->showMessage(QDir::toNativeSeparators(path), 4000);
+  rememberDatabase(path);
   return true;
 }
 
@@ -223,6 +230,7 @@ void ClientWindow::releaseComponent() {
 void ClientWindow::closeEvent(QCloseEvent* event) {
   // The user's view of the list is kept for the next time.
   if (component_) component_->putDocQuillboxListViewSettings();
+  saveWindowGeometry(*this);
   releaseComponent();
   event->accept();
 }
@@ -261,11 +269,14 @@ void ClientWindow::findClient() {
 }
 
 void ClientWindow::chooseDatabase() {
-  const QString start =
-      store_ ? QString::fromStdString(folder_->getDataFolder()) : QDir::homePath();
-  const QString path = QFileDialog::getOpenFileName(this, "Open Client Database", start,
-                                                    "Client databases (*.db);;All files (*)");
-  if (path.isEmpty()) return;
+  // The folder last chosen in, else the open database's.
+  const QString current = store_ ? QString::fromStdString(folder_->getDataFolder()) : QString();
+  QFileDialog dialog(this, "Open Client Database", QString(),
+                     "Client databases (*.db);;All files (*)");
+  dialog.setFileMode(QFileDialog::ExistingFile);
+  const QStringList chosen = gui::runFileDialog(dialog, "database", current);
+  if (chosen.isEmpty()) return;
+  const QString& path = chosen.first();
   if (component_) component_->putDocQuillboxListViewSettings();
   openDatabase(path);
 }

@@ -1,8 +1,11 @@
 #include "tests/gui/desk_fixture.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QElapsedTimer>
 #include <QMouseEvent>
+#include <QSettings>
+#include <QTemporaryDir>
 #include <QThread>
 #include <QWindow>
 #include <cstdlib>
@@ -28,6 +31,9 @@ void ensureApplication() {
   static int argc = 1;
   static char name[] = "test_gui";
   static char* argv[] = {name, nullptr};
+  // The user's settings go to a folder of the test program's own.
+  static QTemporaryDir settings;
+  QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, settings.path());
   new QApplication(argc, argv);
   gui::ensureIconTheme();
 }
@@ -120,6 +126,15 @@ void DeskTest::screenshot(const std::string& name) {
   const char* dir = std::getenv("QB_SCREENSHOT_DIR");
   const std::string path = (dir ? std::string(dir) : folder_.path().string()) + "/" + name + ".png";
   EXPECT_TRUE(window_->saveScreenshot(QString::fromStdString(path))) << path;
+}
+
+void screenshotOf(QWidget& widget, const std::string& name) {
+  const char* dir = std::getenv("QB_SCREENSHOT_DIR");
+  if (dir == nullptr) return;
+  settle();
+  QDir().mkpath(dir);
+  const std::string path = std::string(dir) + "/" + name + ".png";
+  EXPECT_TRUE(widget.grab().save(QString::fromStdString(path), "PNG")) << path;
 }
 
 }  // namespace qb::test
