@@ -2,6 +2,7 @@
 
 #include <QDialogButtonBox>
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -48,7 +49,29 @@ ClientPickerDialog::ClientPickerDialog(const ClientRoster& roster, int current, 
     buttons->button(QDialogButtonBox::Ok)->setEnabled(item != nullptr && !item->isHidden());
   });
   buttons->button(QDialogButtonBox::Ok)->setEnabled(list_->currentItem() != nullptr);
+  search_->installEventFilter(this);
   search_->setFocus();
+}
+
+bool ClientPickerDialog::eventFilter(QObject* watched, QEvent* event) {
+  // The arrow and page keys in the filter box go on into the list, onto the
+  // client highlighted there (the first one shown when none is).
+  if (watched == search_ && event->type() == QEvent::KeyPress) {
+    switch (static_cast<QKeyEvent*>(event)->key()) {
+      case Qt::Key_Down:
+      case Qt::Key_Up:
+      case Qt::Key_PageDown:
+      case Qt::Key_PageUp:
+        if (list_->currentItem() == nullptr || list_->currentItem()->isHidden())
+          filter(search_->text());
+        list_->setFocus(Qt::TabFocusReason);
+        if (QTreeWidgetItem* item = list_->currentItem()) list_->scrollToItem(item);
+        return true;
+      default:
+        break;
+    }
+  }
+  return QDialog::eventFilter(watched, event);
 }
 
 void ClientPickerDialog::filter(const QString& text) {

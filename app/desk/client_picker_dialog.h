@@ -1,7 +1,8 @@
 #pragma once
 // ClientPickerDialog: picks a client of the roster by name. Typing filters
-// the list (any part of the name, ignoring case); a double click or OK takes
-// the highlighted client.
+// the list (any part of the name, ignoring case); the arrow keys go from the
+// filter box into the list; a double click, Enter or OK takes the
+// highlighted client.
 
 #include <QDialog>
 
@@ -22,6 +23,10 @@ class ClientPickerDialog : public QDialog {
   // Shows only the clients whose names contain text.
   void filter(const QString& text);
   QTreeWidget& list() { return *list_; }
+  QLineEdit& search() { return *search_; }
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
   QLineEdit* search_;
