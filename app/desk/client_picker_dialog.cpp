@@ -11,7 +11,8 @@
 
 namespace qb::desk {
 
-ClientPickerDialog::ClientPickerDialog(const ClientRoster& roster, int current, QWidget* parent)
+ClientPickerDialog::ClientPickerDialog(const hosts::ClientRoster& roster, int current,
+                                       QWidget* parent)
     : QDialog(parent), search_(new QLineEdit(this)), list_(new QTreeWidget(this)) {
   setWindowTitle("Find Client");
   resize(420, 460);
@@ -31,7 +32,7 @@ ClientPickerDialog::ClientPickerDialog(const ClientRoster& roster, int current, 
   list_->header()->setSectionResizeMode(0, QHeaderView::Stretch);
   list_->header()->setSectionResizeMode(1, QHeaderView::ResizeToContents);
   for (int i = 0; i < roster.size(); ++i) {
-    const Client& client = roster.at(i);
+    const hosts::Client& client = roster.at(i);
     auto* item = new QTreeWidgetItem(
         list_, {QString::fromStdString(client.name), client.isCompany ? "Company" : "Contact"});
     item->setData(0, Qt::UserRole, i);

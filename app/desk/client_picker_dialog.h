@@ -6,7 +6,7 @@
 
 #include <QDialog>
 
-#include "app/desk/client_roster.h"
+#include "app/common/client_roster.h"
 
 class QLineEdit;
 class QTreeWidget;
@@ -16,7 +16,7 @@ namespace qb::desk {
 class ClientPickerDialog : public QDialog {
  public:
   // current: the roster place to highlight at the start (-1 for none).
-  ClientPickerDialog(const ClientRoster& roster, int current, QWidget* parent);
+  ClientPickerDialog(const hosts::ClientRoster& roster, int current, QWidget* parent);
 
   // The roster place of the client picked, -1 when none is highlighted.
   int picked() const;

@@ -156,7 +156,7 @@ void ClientWindow::hostComponent() {
   quillbox.setWorkingFolderReference(folder_);
   quillbox.setLocaleReference(locale_);
 
-  roster_ = ClientRoster::load(*store_);
+  roster_ = hosts::ClientRoster::load(*store_);
   current_ = -1;
   if (options_.clientIsCompany) {
     current_ = roster_.find(*options_.clientIsCompany, options_.clientID);
@@ -167,7 +167,7 @@ void ClientWindow::hostComponent() {
     current_ = roster_.firstWithDocuments();
   }
   if (current_ >= 0) {
-    const Client& client = roster_.at(current_);
+    const hosts::Client& client = roster_.at(current_);
     if (client.isCompany) {
       quillbox.setCompanyIDNum(client.id);
     } else {
@@ -223,7 +223,7 @@ void ClientWindow::releaseComponent() {
   component_.reset();
   resetModuleState();
   store_.reset();
-  roster_ = ClientRoster();
+  roster_ = hosts::ClientRoster();
   current_ = -1;
 }
 
@@ -238,7 +238,7 @@ void ClientWindow::closeEvent(QCloseEvent* event) {
 void ClientWindow::showClient(int index) {
   if (!component_ || index < 0 || index >= roster_.size()) return;
   current_ = index;
-  const Client& client = roster_.at(index);
+  const hosts::Client& client = roster_.at(index);
   if (client.isCompany) {
     component_->setCompanyIDNum(client.id);
   } else {

@@ -16,6 +16,7 @@ void saveWindowGeometry(const QWidget& window) {
   gui::userSettings()->setValue("window/geometry", window.saveGeometry());
 }
 
+// The command-line tool reads this key too (app/common/desk_settings.h).
 QString lastDatabase() {
   const QString path = gui::userSettings()->value("database/last").toString();
   return !path.isEmpty() && QFileInfo(path).isFile() ? path : QString();

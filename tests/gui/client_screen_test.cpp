@@ -9,7 +9,7 @@
 #include <QPushButton>
 #include <QStyledItemDelegate>
 
-#include "app/desk/client_roster.h"
+#include "app/common/client_roster.h"
 #include "gui/theme_icons.h"
 #include "services/controls/platform.h"
 #include "tests/gui/desk_fixture.h"
@@ -224,7 +224,7 @@ TEST_F(DeskTest, NavigationButtonsMoveThroughTheFirmsClients) {
   EXPECT_FALSE(next.icon().isNull());
   click(next, next.rect().center());
   ASSERT_EQ(window_->currentClient(), start + 1);
-  const desk::Client& shown = window_->roster().at(start + 1);
+  const hosts::Client& shown = window_->roster().at(start + 1);
   EXPECT_EQ(quillbox().lblClientName().Caption(), "  " + shown.name);
   expectListShowsModel(listWidget());
 

@@ -18,7 +18,7 @@ namespace qb::test {
 
 namespace {
 
-std::vector<std::string> names(const desk::ClientRoster& roster, int from, int to) {
+std::vector<std::string> names(const hosts::ClientRoster& roster, int from, int to) {
   std::vector<std::string> found;
   for (int i = from; i < to; ++i) found.push_back(roster.at(i).name);
   return found;
@@ -27,7 +27,7 @@ std::vector<std::string> names(const desk::ClientRoster& roster, int from, int t
 }  // namespace
 
 TEST_F(DeskTest, RosterHoldsCompaniesThenContactsByName) {
-  const desk::ClientRoster& roster = window_->roster();
+  const hosts::ClientRoster& roster = window_->roster();
   ASSERT_EQ(roster.size(), 16 + 30);  // the firm and its five users are not clients
   EXPECT_EQ(names(roster, 0, 3),
             (std::vector<std::string>{"Bluenose Marine Services Ltd.", "Byward Market Books",
@@ -57,7 +57,7 @@ TEST_F(DeskTest, RosterHoldsCompaniesThenContactsByName) {
 }
 
 TEST_F(DeskTest, FindClientsArrowKeysGoFromTheFilterIntoTheList) {
-  const desk::ClientRoster& roster = window_->roster();
+  const hosts::ClientRoster& roster = window_->roster();
   desk::ClientPickerDialog picker(roster, roster.find(true, 3), nullptr);
   picker.show();
   waitUntilPlaced(picker);

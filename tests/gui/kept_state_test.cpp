@@ -5,6 +5,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QTimer>
@@ -12,6 +13,7 @@
 #include <filesystem>
 #include <functional>
 
+#include "app/common/desk_settings.h"
 #include "gui/user_settings.h"
 #include "tests/gui/desk_fixture.h"
 
@@ -75,7 +77,7 @@ TEST_F(DeskTest, TheWindowAndTheDatabaseAreKeptBetweenRuns) {
 
 TEST_F(DeskTest, FileOpenStartsWhereTheUserLastChoseAndKeepsItsLayout) {
   gui::userSettings()->remove("dialogs");
-  const std::string other = folder_.file("elsewhere/firm copy.db");
+  const std::string other = folder_.file("elsewhere, 2024/firm copy.db");
   std::filesystem::create_directories(folderOf(other).toStdString());
   std::filesystem::copy_file(folder_.file("firm.db"), other);
 
@@ -94,7 +96,10 @@ TEST_F(DeskTest, FileOpenStartsWhereTheUserLastChoseAndKeepsItsLayout) {
     name->setText(QString::fromStdString(other));
     QMetaObject::invokeMethod(&dialog, "accept");
   });
-  EXPECT_EQ(gui::userSettings()->value("database/last").toString().toStdString(), other);
+  // The command-line tool finds it there too.
+  const QString settingsFile = gui::userSettings()->fileName();
+  EXPECT_EQ(hosts::lastDeskDatabase(QFileInfo(settingsFile).dir().path().toStdString() + "/.."),
+            other);
   ASSERT_NE(window_->component(), nullptr);
 
   // The next time: in the folder chosen last, at the size the user left.
