@@ -41,14 +41,13 @@ set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
 set(CPACK_STRIP_FILES ON)
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY
     "Client document links and merge fields for accounting firms")
-set(CPACK_DEBIAN_PACKAGE_DESCRIPTION
-    "Client document links and merge fields for accounting firms
- Quillbox keeps, for each client of an accounting firm, a tree of document
- categories with links to the client's files where they already live, and
- opens them with the desktop's applications. The files themselves are never
- touched. The package holds the desktop program, quillbox-desk, and the
- command-line tool, quillbox, which creates client databases and runs the
- firm's look-ups, address blocks and summaries on them.")
+set(CPACK_PACKAGE_DESCRIPTION
+    "Quillbox keeps, for each client of an accounting firm, a tree of document \
+categories with links to the client's files where they already live, and opens them \
+with the desktop's applications; the files themselves are never touched. The package \
+holds the desktop program, quillbox-desk, and the command-line tool, quillbox, which \
+creates client databases and runs the firm's look-ups, address blocks and summaries \
+on them.")
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_MAINTAINER "Quillbox developers <packages@quillbox.invalid>")
 set(CPACK_DEBIAN_PACKAGE_SECTION office)
