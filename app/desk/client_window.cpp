@@ -14,6 +14,7 @@
 
 #include "app/desk/client_picker_dialog.h"
 #include "app/desk/dialog_error_object.h"
+#include "app/desk/merge_fields_window.h"
 #include "app/desk/window_state.h"
 #include "control/nv_document_quillbox.h"
 #include "data/mod_database_functions.h"
@@ -117,6 +118,10 @@ void ClientWindow::buildMenus() {
   view->addAction(gui::themeIcon("view-refresh"), "&Refresh", QKeySequence::Refresh, this, [this] {
     if (component_) component_->setupDocumentsDisplay();
   });
+
+  QMenu* tools = menuBar()->addMenu("&Tools");
+  tools->addAction(gui::themeIcon("insert-text"), "&Merge Fields…", this,
+                   [this] { openMergeFieldsWindow(*this); });
 }
 
 bool ClientWindow::openDatabase(const QString& path) {
