@@ -60,7 +60,7 @@ QWidget* group(const QString& title, QWidget* content, QWidget* parent) {
 
 }  // namespace
 
-MergeFieldsWindow::MergeFieldsWindow(const Client& client, QWidget* parent)
+MergeFieldsWindow::MergeFieldsWindow(const hosts::Client& client, QWidget* parent)
     : QDialog(parent),
       clientFields_(std::make_unique<ListBox>("lstClientFields")),
       firmFields_(std::make_unique<ListBox>("lstFirmFields")),
