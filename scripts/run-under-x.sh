@@ -39,17 +39,21 @@ trap cleanup EXIT
 
 # Xvfb picks a free display and writes its number, so runs side by side
 # don't collide.
+# Waits up to ten seconds for a starting program to write a file, and shows
+# that program's log when it does not.
+await() {  # await FILE PROGRAM LOG
+  for _ in $(seq 200); do
+    if [ -s "$1" ]; then return 0; fi
+    sleep 0.05
+  done
+  echo "run-under-x: $2 did not start:" >&2
+  cat "$3" >&2
+  exit 1
+}
+
 Xvfb -displayfd 3 -screen 0 1600x1200x24 -nolisten tcp 3>"$work/display" 2>"$work/xvfb.log" &
 xvfb=$!
-for _ in $(seq 200); do
-  if [ -s "$work/display" ]; then break; fi
-  sleep 0.05
-done
-if [ ! -s "$work/display" ]; then
-  echo "run-under-x: Xvfb did not start:" >&2
-  cat "$work/xvfb.log" >&2
-  exit 1
-fi
+await "$work/display" Xvfb "$work/xvfb.log"
 export DISPLAY=":$(cat "$work/display")"
 
 # Nothing of a desktop session reaches the program.
@@ -63,17 +67,9 @@ mkdir -m 700 "$XDG_RUNTIME_DIR"
 if [ -n "$scale" ]; then export QT_SCALE_FACTOR="$scale"; fi
 
 # The window manager tells when it manages the screen.
-XDG_CONFIG_HOME="$work/wm" openbox --startup "touch $work/wm-ready" 2>"$work/wm.log" &
+XDG_CONFIG_HOME="$work/wm" openbox --startup "sh -c 'echo ready >$work/wm-ready'" 2>"$work/wm.log" &
 wm=$!
-for _ in $(seq 200); do
-  if [ -e "$work/wm-ready" ]; then break; fi
-  sleep 0.05
-done
-if [ ! -e "$work/wm-ready" ]; then
-  echo "run-under-x: openbox did not start:" >&2
-  cat "$work/wm.log" >&2
-  exit 1
-fi
+await "$work/wm-ready" openbox "$work/wm.log"
 
 status=0
 "$@" || status=$?
