@@ -13,9 +13,12 @@
 #include "gui/theme_icons.h"
 #include "services/store/sample_firm.h"
 
-// The desktop's font library keeps its caches for the life of the process;
-// the leak checker of the sanitizer build is told so.
-extern "C" const char* __lsan_default_suppressions() { return "leak:libfontconfig\n"; }
+// The desktop's font library keeps its caches for the life of the process,
+// and so does the D-Bus library its connection on an X display; the leak
+// checker of the sanitizer build is told so.
+extern "C" const char* __lsan_default_suppressions() {
+  return "leak:libfontconfig\nleak:libdbus-1\n";
+}
 
 namespace qb::test {
 
