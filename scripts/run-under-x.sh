@@ -67,7 +67,7 @@ mkdir -m 700 "$XDG_RUNTIME_DIR"
 if [ -n "$scale" ]; then export QT_SCALE_FACTOR="$scale"; fi
 
 # The window manager tells when it manages the screen.
-XDG_CONFIG_HOME="$work/wm" openbox --startup "sh -c 'echo ready >$work/wm-ready'" 2>"$work/wm.log" &
+XDG_CONFIG_HOME="$work/wm" openbox --startup "sh -c 'echo ready >$work/wm-ready'" >"$work/wm.log" 2>&1 &
 wm=$!
 await "$work/wm-ready" openbox "$work/wm.log"
 

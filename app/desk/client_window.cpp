@@ -75,7 +75,11 @@ ClientWindow::ClientWindow(const DeskOptions& options, QWidget* parent)
   const QString database = options_.databasePath.empty()
                                ? lastDatabase()
                                : QString::fromStdString(options_.databasePath);
-  if (!database.isEmpty()) openDatabase(database);
+  if (!database.isEmpty()) {
+    openDatabase(database);
+  } else {
+    statusBar()->showMessage("No client database is open: File ▸ Open Database… opens one.");
+  }
 }
 
 ClientWindow::~ClientWindow() { releaseComponent(); }

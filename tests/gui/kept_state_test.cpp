@@ -8,6 +8,7 @@
 #include <QFileInfo>
 #include <QHeaderView>
 #include <QLineEdit>
+#include <QStatusBar>
 #include <QTimer>
 #include <QTreeView>
 #include <filesystem>
@@ -73,6 +74,7 @@ TEST_F(DeskTest, TheWindowAndTheDatabaseAreKeptBetweenRuns) {
   std::filesystem::remove(folder_.file("firm.db"));
   desk::ClientWindow empty(options);
   EXPECT_EQ(empty.component(), nullptr);
+  EXPECT_TRUE(empty.statusBar()->currentMessage().startsWith("No client database is open"));
 }
 
 TEST_F(DeskTest, FileOpenStartsWhereTheUserLastChoseAndKeepsItsLayout) {
