@@ -23,6 +23,7 @@
 #include "app/desk/merge_field_lists.h"
 #include "app/desk/rtf_reading.h"
 #include "gui/rich_text_box_widget.h"
+#include "gui/theme_icons.h"
 #include "merge/cls_insert_fields_in_rtb.h"
 #include "services/controls/rich_text_box.h"
 #include "services/host/clock.h"
@@ -49,7 +50,7 @@ std::string fileNamePart(const std::string& name) {
 
 }  // namespace
 
-MergeDocumentWindow::MergeDocumentWindow(const std::string& path, const Client& client,
+MergeDocumentWindow::MergeDocumentWindow(const std::string& path, const hosts::Client& client,
                                          QWidget* parent)
     : QDialog(parent),
       path_(path),
@@ -59,7 +60,7 @@ MergeDocumentWindow::MergeDocumentWindow(const std::string& path, const Client& 
   setWindowTitle(QString("%1 — Merge for %2")
                      .arg(QFileInfo(QString::fromStdString(path)).fileName(),
                           QString::fromStdString(client.name)));
-  setWindowIcon(QIcon::fromTheme("x-office-document"));
+  setWindowIcon(gui::themeIcon("x-office-document"));
   auto* layout = new QVBoxLayout(this);
   layout->addWidget(
       new QLabel(QString("Merge document <b>%1</b> for <b>%2</b> (%3), in the firm's region: %4")
@@ -107,7 +108,7 @@ void MergeDocumentWindow::buildButtons(QBoxLayout* layout) {
   // Today's date in the fourteen formats, each shown as it reads today.
   auto* today = new QToolButton(this);
   today->setText("Today's &Date");
-  today->setIcon(QIcon::fromTheme("x-office-calendar"));
+  today->setIcon(gui::themeIcon("x-office-calendar"));
   today->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
   today->setPopupMode(QToolButton::InstantPopup);
   auto* formats = new QMenu(today);
@@ -130,7 +131,7 @@ void MergeDocumentWindow::buildButtons(QBoxLayout* layout) {
   buttons->addButton(today, QDialogButtonBox::ActionRole);
   auto add = [&](const QString& text, const char* icon, auto action) {
     QPushButton* button = buttons->addButton(text, QDialogButtonBox::ActionRole);
-    button->setIcon(QIcon::fromTheme(icon));
+    button->setIcon(gui::themeIcon(icon));
     connect(button, &QPushButton::clicked, this, action);
     return button;
   };

@@ -16,7 +16,7 @@
 #include <memory>
 #include <string>
 
-#include "app/desk/client_roster.h"
+#include "app/common/client_roster.h"
 
 class QBoxLayout;
 class QLabel;
@@ -42,7 +42,7 @@ class MergeDocumentWindow : public QDialog {
  public:
   // Opens the template at path for the client. A file that can't be read
   // leaves the window with the reason in its message line.
-  MergeDocumentWindow(const std::string& path, const Client& client, QWidget* parent);
+  MergeDocumentWindow(const std::string& path, const hosts::Client& client, QWidget* parent);
   ~MergeDocumentWindow() override;
 
   // The template as the merge takes it: the file's bytes, or the edited
@@ -86,7 +86,7 @@ class MergeDocumentWindow : public QDialog {
   std::string mergeText(bool test);
 
   std::string path_;
-  Client client_;
+  hosts::Client client_;
   std::string original_;  // the file's bytes
   bool edited_ = false;   // the template was changed since it was read or saved
   bool rich_ = false;

@@ -45,7 +45,7 @@ QWidget* group(const QString& title, QWidget* content, QWidget* parent) {
 
 }  // namespace
 
-void setMergeClient(clsInsertFieldsInRTB& fields, const Client& client) {
+void setMergeClient(clsInsertFieldsInRTB& fields, const hosts::Client& client) {
   if (client.isCompany) {
     fields.setCompanyID(client.id);
     fields.setContactID(modDatabaseClientFunctions::getDefaultContactIDFromCompanyID(client.id));
@@ -73,7 +73,7 @@ QString regionText() {
 }
 
 MergeFieldLists::MergeFieldLists(clsInsertFieldsInRTB& fields, RichTextBox& target,
-                                 const Client& client, QWidget* parent)
+                                 const hosts::Client& client, QWidget* parent)
     : QSplitter(Qt::Horizontal, parent),
       fields_(fields),
       target_(target),

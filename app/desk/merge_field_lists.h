@@ -14,7 +14,7 @@
 #include <functional>
 #include <memory>
 
-#include "app/desk/client_roster.h"
+#include "app/common/client_roster.h"
 
 namespace qb {
 class clsInsertFieldsInRTB;
@@ -32,7 +32,7 @@ namespace qb::desk {
 // contact (list type 1), or a contact by itself (list type 3) whose name
 // stands where a template asks for the company's; the firm, and the user of
 // the locale.
-void setMergeClient(clsInsertFieldsInRTB& fields, const Client& client);
+void setMergeClient(clsInsertFieldsInRTB& fields, const hosts::Client& client);
 
 // "Ontario, Canada", "United States": the region the lists are built for.
 QString regionText();
@@ -41,7 +41,7 @@ class MergeFieldLists : public QSplitter {
  public:
   // Fills both lists of fields for the client into fields' list boxes;
   // picks go into target.
-  MergeFieldLists(clsInsertFieldsInRTB& fields, RichTextBox& target, const Client& client,
+  MergeFieldLists(clsInsertFieldsInRTB& fields, RichTextBox& target, const hosts::Client& client,
                   QWidget* parent);
   ~MergeFieldLists() override;
 

@@ -9,7 +9,7 @@
 #include <QDialog>
 #include <memory>
 
-#include "app/desk/client_roster.h"
+#include "app/common/client_roster.h"
 #include "app/desk/merge_field_lists.h"
 
 namespace qb::gui {
@@ -25,7 +25,7 @@ class MergeFieldsWindow : public QDialog {
  public:
   // Builds both lists for the client: a company's fields with its default
   // contact's, or a contact's own.
-  MergeFieldsWindow(const Client& client, QWidget* parent);
+  MergeFieldsWindow(const hosts::Client& client, QWidget* parent);
   ~MergeFieldsWindow() override;
 
   ListBox& clientFields() const { return lists_->clientFields(); }
