@@ -19,34 +19,41 @@
 #include "services/runtime/dates.h"
 #include "services/store/sample_firm.h"
 #include "services/store/sqlite_database.h"
+#include "tests/merge/literal_passes.h"
 
 namespace {
 
 namespace fs = std::filesystem;
 
-// The merge class with the sweeps as written in reach.
-class LiteralMerge : public qb::clsInsertFieldsInRTB {
- public:
-  std::string parseAsWritten() {
-    std::string text = prepareTemplate();
-    sweepLiterally(text, "«", "»");
-    sweepLiterally(text, "\\'ab", "\\'bb");
-    replaceUnfoundMergeFieldsWithBlanks(text);
-    return text;
-  }
-};
-
 // A letter of some 10 KB of RTF source: a header with its font and colour
 // tables, paragraphs of text with control words and escapes, and 25 markers
 // in the form RTF source writes them.
 std::string rtfLetter() {
-  const char* const markers[] = {
-      "(Todays Date, mmmm d, yyyy)", "Contact Display Name", "Company Name", "Address",
-      "City", "Province", "Postal Code", "Contact First Name", "(Year End Date, mmmm d yyyy)",
-      "Business Number", "HST Number", "Your Company Name", "Your Address", "Your City",
-      "Your Province", "Your Postal Code", "Your Office Number", "Contact Business Email",
-      "Company Notes", "(Incorporation Date, d)", "Managing Accountant", "Supervising Partner",
-      "Client ID", "Contact Last Name", "Office Number"};
+  const char* const markers[] = {"(Todays Date, mmmm d, yyyy)",
+                                 "Contact Display Name",
+                                 "Company Name",
+                                 "Address",
+                                 "City",
+                                 "Province",
+                                 "Postal Code",
+                                 "Contact First Name",
+                                 "(Year End Date, mmmm d yyyy)",
+                                 "Business Number",
+                                 "HST Number",
+                                 "Your Company Name",
+                                 "Your Address",
+                                 "Your City",
+                                 "Your Province",
+                                 "Your Postal Code",
+                                 "Your Office Number",
+                                 "Contact Business Email",
+                                 "Company Notes",
+                                 "(Incorporation Date, d)",
+                                 "Managing Accountant",
+                                 "Supervising Partner",
+                                 "Client ID",
+                                 "Contact Last Name",
+                                 "Office Number"};
   std::string rtf =
       "{\\rtf1\\ansi\\ansicpg1252\\deff0\\deflang4105{\\fonttbl{\\f0\\fswiss\\fcharset0 "
       "Arial;}{\\f1\\froman\\fcharset0 Times New Roman;}}\r\n{\\colortbl ;\\red0\\green0\\blue128;}"
@@ -116,7 +123,7 @@ BENCHMARK(BM_ParseLetterInTestMode)->Unit(benchmark::kMicrosecond);
 void BM_ParseLetterInTestModeAsWritten(benchmark::State& state) {
   SampleFirm firm;
   const std::string letter = rtfLetter();
-  LiteralMerge fields;
+  qb::test::LiteralMerge fields;
   setForLetter(fields);
   fields.setTestComment(true);
   fields.initializeDataRecordsetsForSingleDocMerge();

@@ -6,8 +6,8 @@
 
 #include <random>
 
-#include "tests/merge/literal_passes.h"
 #include "tests/merge/merge_firm.h"
+#include "tests/merge/merge_fixture.h"
 #include "tests/merge/template_generator.h"
 
 namespace qb::test {
@@ -110,7 +110,7 @@ class Differential : public MergeTest {
       const std::string text = templates.next();
       fields.setTemplateText(text);
       const std::string fast = fields.parseRTBComment();
-      const std::string literal = parseLiterally(fields);
+      const std::string literal = fields.parseAsWritten();
       ASSERT_EQ(visible(fast), visible(literal))
           << "template: " << visible(text) << "\nsetting: " << setting;
       ++compared;

@@ -312,5 +312,19 @@ TEST_F(FieldResolution, WhatGivesNothing) {
   EXPECT_TRUE(db.errors().failures.empty());
 }
 
+TEST_F(FieldResolution, AColumnMissingFromTheDatabaseIsReportedAndTheRestMerges) {
+  db.exec("ALTER TABLE Companies DROP COLUMN WebSite;");
+  MergeFields fields;
+  setIds(fields);
+  fields.setListType(listTypeCompany);
+  fields.initializeDataRecordsetsForSingleDocMerge();
+  fields.setTemplateText("«Company Name» [«Web Site»] «City»");
+  EXPECT_EQ(fields.parseRTBComment(), "Acme Ltd. [] Ottawa");
+  ASSERT_EQ(db.errors().failures.size(), 1u);
+  EXPECT_EQ(db.errors().failures[0].number, err::kItemNotFound);
+  EXPECT_EQ(db.errors().failures[0].source,
+            "Orvanta.exe-clsInsertFieldsInRTB-getDataFieldFromRecordset");
+}
+
 }  // namespace
 }  // namespace qb::test

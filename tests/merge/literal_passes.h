@@ -3,12 +3,14 @@
 // compared with: every marker of every field searched for in the text by
 // the run-time's InStr, each found replaced by Replace, and the unfound ones
 // removed piece by piece with InStr, Mid and Replace from the text's
-// beginning each time. Slow by design; it serves as the oracle.
+// beginning each time. Slow by design; the tests, the benchmarks and the
+// fuzz targets take it as the oracle.
 
 #include <string>
 
+#include "merge/cls_insert_fields_in_rtb.h"
 #include "services/runtime/strings.h"
-#include "tests/merge/merge_fixture.h"
+#include "services/util/field_list_class.h"
 
 namespace qb::test {
 
@@ -34,14 +36,18 @@ inline void removeUnfoundLiterally(const FieldListClass& table, std::string& tex
   }
 }
 
-// parseRTBComment as written.
-inline std::string parseLiterally(MergeFields& fields) {
-  std::string text = fields.prepareTemplate();
-  if (!fields.verifyFieldListIsPopulated()) return text;
-  fields.sweepLiterally(text, "«", "»");
-  fields.sweepLiterally(text, "\\'ab", "\\'bb");
-  removeUnfoundLiterally(fields.FieldList(), text);
-  return text;
-}
+// The merge class with the passes as written beside its own.
+class LiteralMerge : public clsInsertFieldsInRTB {
+ public:
+  // parseRTBComment as written.
+  std::string parseAsWritten() {
+    std::string text = prepareTemplate();
+    if (!verifyFieldListIsPopulated()) return text;
+    sweepLiterally(text, "«", "»");
+    sweepLiterally(text, "\\'ab", "\\'bb");
+    removeUnfoundLiterally(FieldList(), text);
+    return text;
+  }
+};
 
 }  // namespace qb::test

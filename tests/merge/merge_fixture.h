@@ -16,12 +16,13 @@
 #include "services/host/module_state.h"
 #include "services/runtime/conversions.h"
 #include "services/runtime/dates.h"
+#include "tests/merge/literal_passes.h"
 #include "tests/support/test_database.h"
 
 namespace qb::test {
 
 // The merge class with its private operations callable.
-class MergeFields : public clsInsertFieldsInRTB {
+class MergeFields : public LiteralMerge {
  public:
   using clsInsertFieldsInRTB::convertFieldName;
   using clsInsertFieldsInRTB::convertToRTF;

@@ -3,8 +3,8 @@
 // RTF quirk and a bracket left open), values made ready for rich text, and
 // templates that are large or made of brackets.
 
-#include "tests/merge/literal_passes.h"
 #include "tests/merge/merge_firm.h"
+#include "tests/merge/merge_fixture.h"
 
 namespace qb::test {
 namespace {
@@ -95,7 +95,7 @@ TEST_F(MergePasses, ValuesThatHoldMarkers) {
                            "\\'a\\'abCorporate Name\\'bbContact First Name\\'bb",
                            "«Contact «Corporate Name»First Name»", "To «Company Name»"}) {
     fields.setTemplateText(text);
-    EXPECT_EQ(fields.parseRTBComment(), parseLiterally(fields)) << text;
+    EXPECT_EQ(fields.parseRTBComment(), fields.parseAsWritten()) << text;
   }
 }
 
@@ -186,7 +186,7 @@ TEST_F(MergePasses, LargeTemplatesAndTemplatesOfBrackets) {
   fields.setTemplateText(brackets);
   EXPECT_LT(fields.parseRTBComment().size(), brackets.size());
   fields.setTemplateText(brackets.substr(0, 2000));
-  EXPECT_EQ(fields.parseRTBComment(), parseLiterally(fields));
+  EXPECT_EQ(fields.parseRTBComment(), fields.parseAsWritten());
 }
 
 TEST_F(MergePasses, AReplacementAsWritten) {
