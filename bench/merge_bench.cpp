@@ -1,5 +1,5 @@
 // The merge: a 10 KB RTF letter with 25 markers parsed in test mode, anew
-// each time, by the merge's route and by the sweeps as they are written;
+// each time, by the merge's route and by the literal sweeps;
 // and a single-document merge of the sample firm with the store read
 // (recordsets opened, table built, template parsed). Goals: the letter
 // under 50 microseconds, the document under a millisecond.

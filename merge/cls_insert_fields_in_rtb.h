@@ -264,11 +264,10 @@ class clsInsertFieldsInRTB {
   bool replaceText(std::string& text, const std::string& find, const std::string& replacement);
   // One sweep over the markers in one bracket pair, as the merge makes it:
   // today's date in its fourteen formats, then every field of the table in
-  // its order, each marker found replaced by its value. The fast route
-  // reads the template once; sweepLiterally searches the text for every
-  // marker of every field, the way the sweep is written, and serves where
-  // the fast route can't be sure to agree (a display name holding a
-  // bracket).
+  // its order, each marker found replaced by its value. sweepMarkers reads
+  // the template once (MarkerSweep); sweepLiterally searches the text for
+  // every marker of every field in turn, and serves where the one reading
+  // can't be sure to agree (a display name holding a bracket).
   void sweepMarkers(std::string& text, const std::string& open, const std::string& close);
   void sweepLiterally(std::string& text, const std::string& open, const std::string& close);
   // The first three steps of a merge: TemplateText normalised, and "«Company

@@ -35,7 +35,7 @@ class MarkerKeys {
 
   // False when a display name holds a bracket or a backslash: its markers
   // then need not end where their body seems to, and the sweep must search
-  // the text as written.
+  // the text for each marker in turn.
   bool usable() const { return usable_; }
   // The key of a marker body (compared ignoring case, as the sweep's search
   // compares), the first in the order after the key passed; -1 when no key

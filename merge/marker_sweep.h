@@ -2,7 +2,7 @@
 // MarkerSweep: one sweep of the merge over one bracket pair, reading the
 // template once instead of searching it for every marker of every field.
 //
-// The sweep as written takes the keys in their order (MarkerKeys) and, for
+// The literal sweep takes the keys in their order (MarkerKeys) and, for
 // each whose marker the text holds, replaces all its occurrences by the
 // value, so that later keys see the text as the earlier ones left it. This
 // route finds the markers of the text first, as the places where an open

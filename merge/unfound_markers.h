@@ -1,7 +1,7 @@
 #pragma once
 // The removal of the markers that no sweep replaced, in one bracket pair.
 //
-// As written, the removal takes the first open bracket, the piece from it to
+// Step by step, the removal takes the first open bracket, the piece from it to
 // the first close bracket after it, counted as if the close bracket were one
 // character long, removes every exact occurrence of that piece, and starts
 // again from the beginning. For the RTF source form (\'ab ... \'bb) the piece
@@ -11,7 +11,7 @@
 // and, in the RTF form, no piece is the beginning of another marker, every
 // piece is exactly one marker and the result is the text with all those
 // markers cut out: that is found in one reading. Otherwise the pieces are
-// removed one after the other as written, each removal reading on from where
+// removed one after the other, each removal reading on from where
 // the last piece began (nothing before it changes).
 
 #include <string>

@@ -1,4 +1,4 @@
-// The merge's route against the passes as written, byte for byte, on many
+// The merge's route against the literal passes, byte for byte, on many
 // generated templates: in test mode and against the store, with values that
 // hold markers of later fields, brackets and RTF, in plain and rich text,
 // with and without word wrap, and for a contact that takes the company's

@@ -1,5 +1,5 @@
 #pragma once
-// The merge passes as they are written, for the merge's own route to be
+// The literal merge passes, for the merge's own route to be
 // compared with: every marker of every field searched for in the text by
 // the run-time's InStr, each found replaced by Replace, and the unfound ones
 // removed piece by piece with InStr, Mid and Replace from the text's
@@ -14,7 +14,7 @@
 
 namespace qb::test {
 
-// replaceUnfoundMergeFieldsWithBlanks as written. A bracket that opens and
+// replaceUnfoundMergeFieldsWithBlanks step by step. A bracket that opens and
 // never closes ends the removal there (its piece would have no length).
 inline void removeUnfoundLiterally(const FieldListClass& table, std::string& text) {
   if (table.getFieldRowCount() == 0) return;
@@ -36,10 +36,10 @@ inline void removeUnfoundLiterally(const FieldListClass& table, std::string& tex
   }
 }
 
-// The merge class with the passes as written beside its own.
+// The merge class with the literal passes beside its own.
 class LiteralMerge : public clsInsertFieldsInRTB {
  public:
-  // parseRTBComment as written.
+  // parseRTBComment, literally.
   std::string parseAsWritten() {
     std::string text = prepareTemplate();
     if (!verifyFieldListIsPopulated()) return text;

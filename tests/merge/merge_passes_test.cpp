@@ -176,7 +176,7 @@ TEST_F(MergePasses, LargeTemplatesAndTemplatesOfBrackets) {
   EXPECT_EQ(fields.parseRTBComment(), expected);
 
   // Nothing but brackets, nested every way: the merge ends, and gives what
-  // the passes as written give on a part of it small enough for them.
+  // the literal passes give on a part of it small enough for them.
   std::string brackets;
   uint32_t state = 7;
   for (int i = 0; i < 200000; ++i) {
