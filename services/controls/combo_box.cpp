@@ -1,12 +1,18 @@
 #include "services/controls/combo_box.h"
 
+#include <algorithm>
+
 #include "services/controls/control_failures.h"
+#include "services/controls/form.h"
+#include "services/runtime/strings.h"
 
 namespace qb {
 
 void ComboBox::setText(std::string value) {
   if (value == text_) return;
   text_ = std::move(value);
+  selStart_ = Len(text_);
+  selLength_ = 0;
   listIndex_ = -1;
   for (int32_t i = 0; i < ListCount(); ++i) {
     if (entries_[i].text == text_) {
@@ -68,8 +74,26 @@ void ComboBox::setListIndex(int32_t value) {
   if (value == listIndex_) return;
   listIndex_ = value;
   if (value >= 0) text_ = entries_[value].text;
+  selStart_ = Len(text_);
+  selLength_ = 0;
   notify(ControlChange::Selection);
   Click.raise();
+}
+
+}  // namespace qb
+
+namespace qb {
+
+void ComboBox::select(int32_t start, int32_t length) {
+  const int32_t size = Len(text_);
+  selStart_ = std::clamp(start, 0, size);
+  selLength_ = std::clamp(length, 0, size - selStart_);
+  notify(ControlChange::Selection);
+}
+
+int16_t ComboBox::typeKey(int16_t keyAscii) {
+  raiseKeyPress(*this, keyAscii);
+  return keyAscii;
 }
 
 }  // namespace qb

@@ -21,6 +21,15 @@ class ComboBox : public Control {
   void setText(std::string value);
   bool Locked() const { return locked_; }
   void setLocked(bool value);
+  // The selected part of the edit text: its start (characters before it)
+  // and length. A new Text or choice leaves nothing selected, the caret at
+  // the end.
+  int32_t SelStart() const { return selStart_; }
+  int32_t SelLength() const { return selLength_; }
+  void select(int32_t start, int32_t length);
+  // A user's key on the combo: KeyPress (the form's first when it previews
+  // keys); returns what is left of the key (0 when a handler used it up).
+  int16_t typeKey(int16_t keyAscii);
 
   // Appends an entry, or inserts it at index (0-based) when index >= 0. An
   // index past ListCount is refused with err::kInvalidCall.
@@ -55,6 +64,8 @@ class ComboBox : public Control {
   std::vector<Entry> entries_;
   int32_t listIndex_ = -1;
   int32_t newIndex_ = -1;
+  int32_t selStart_ = 0;
+  int32_t selLength_ = 0;
 };
 
 }  // namespace qb

@@ -1,5 +1,8 @@
 #include "services/controls/text_box.h"
 
+#include <algorithm>
+
+#include "services/controls/form.h"
 #include "services/runtime/strings.h"
 
 namespace qb {
@@ -7,8 +10,17 @@ namespace qb {
 void TextBox::setText(std::string value) {
   if (value == text_) return;
   text_ = std::move(value);
+  selStart_ = Len(text_);
+  selLength_ = 0;
   notify(ControlChange::Text);
   Change.raise();
+}
+
+void TextBox::select(int32_t start, int32_t length) {
+  const int32_t size = Len(text_);
+  selStart_ = std::clamp(start, 0, size);
+  selLength_ = std::clamp(length, 0, size - selStart_);
+  notify(ControlChange::Selection);
 }
 
 void TextBox::setLocked(bool value) {
@@ -31,13 +43,27 @@ const std::string& TextBox::typeText(const std::string& typed) {
     i += length;
     if (length == 1) {
       int16_t keyAscii = lead;
-      KeyPress.raise(keyAscii);
+      raiseKeyPress(*this, keyAscii);
       if (keyAscii == 0) continue;
       character = std::string(1, static_cast<char>(keyAscii));
     }
     if (locked_) continue;
-    if (maxLength_ > 0 && Len(text_) >= maxLength_) continue;
-    setText(text_ + character);
+    // The character replaces the selection, at the caret; Backspace takes
+    // the selection or the character before the caret; other control keys
+    // (Enter, Escape, Tab) type nothing into a line.
+    std::string before = qb::Left(text_, selStart_);
+    std::string after = Mid(text_, selStart_ + selLength_ + 1);
+    if (character == "\b") {
+      if (selLength_ == 0 && !before.empty()) before = qb::Left(before, Len(before) - 1);
+      setText(before + after);
+      selStart_ = Len(before);
+      continue;
+    }
+    if (static_cast<unsigned char>(character[0]) < 32) continue;
+    if (maxLength_ > 0 && Len(before) + Len(after) >= maxLength_) continue;
+    setText(before + character + after);
+    selStart_ = Len(before) + 1;
+    selLength_ = 0;
   }
   return text_;
 }

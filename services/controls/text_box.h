@@ -16,13 +16,23 @@ class TextBox : public Control {
   void setText(std::string value);
   bool Locked() const { return locked_; }
   void setLocked(bool value);
+  // The selected part of the text: its start (characters before it) and
+  // length. Setting the text puts the caret at its end with nothing selected.
+  int32_t SelStart() const { return selStart_; }
+  int32_t SelLength() const { return selLength_; }
+  // Selects from start (clamped to the text) for length characters (clamped).
+  void select(int32_t start, int32_t length);
   // 0 means no limit; otherwise typeText keeps at most this many characters.
   int32_t MaxLength() const { return maxLength_; }
   void setMaxLength(int32_t value) { maxLength_ = value; }
 
-  // What a user's typing does: each character goes through KeyPress (which
-  // may change or swallow it; only single-byte characters pass KeyPress, the
-  // others go in as they are), then unless the box is Locked it is appended.
+  // What a user's typing does: each character goes through KeyPress (the
+  // form's first when it previews keys; a handler may change or swallow it;
+  // only single-byte characters pass KeyPress, the others go in as they
+  // are), then unless the box is Locked it replaces the selection at the
+  // caret (the end of the text unless select() put it elsewhere). Backspace
+  // (8) removes the selection or the character before the caret; other
+  // control characters type nothing.
   // Returns the text after typing.
   const std::string& typeText(const std::string& typed);
 
@@ -32,6 +42,8 @@ class TextBox : public Control {
   std::string text_;
   bool locked_ = false;
   int32_t maxLength_ = 0;
+  int32_t selStart_ = 0;
+  int32_t selLength_ = 0;
 };
 
 }  // namespace qb
