@@ -53,7 +53,8 @@ bool nvDocumentQuillbox::openDocumentProperties() {
   });
   if (!listHolds(lvDocuments_, row)) return false;  // the list was rebuilt meanwhile
   proc.step([&] { row->setText(document->documentName()); });
-  proc.step([&] { row->setTag(rowTags::documentTag(document->documentID(), document->documentPath())); });
+  proc.step(
+      [&] { row->setTag(rowTags::documentTag(document->documentID(), document->documentPath())); });
 
   // Seven sub-items go in at the front; the row's earlier ones move behind
   // them, past the last column. The list is rebuilt at the next refresh.
@@ -124,7 +125,8 @@ bool nvDocumentQuillbox::goToDocument(int32_t& documentID) {
   // By display name, not by id: of two links of one name the first in list
   // order is selected.
   ListItem* row = nullptr;
-  proc.step([&] { row = lvDocuments_.FindItem(document->documentName(), lvwText, 1, lvwWholeWord); });
+  proc.step(
+      [&] { row = lvDocuments_.FindItem(document->documentName(), lvwText, 1, lvwWholeWord); });
   if (row != nullptr) {
     proc.step([&] { lvDocuments_.setSelectedItem(nullptr); });
     proc.step([&] { lvDocuments_.setSelectedItem(row); });

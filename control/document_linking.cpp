@@ -69,10 +69,10 @@ bool nvDocumentQuillbox::addDocumentFiles() {
   ModuleState& module = moduleState();
   auto dialog = std::make_unique<CommonDialog>();
   proc.step([&] {
-    dialog->setInitDir(objectOf(module.fileUtilities)
-                           .addTrailingBackslash(
-                               objectOf(module.workingFolderReference).getDataFolder()) +
-                       "Data");
+    dialog->setInitDir(
+        objectOf(module.fileUtilities)
+            .addTrailingBackslash(objectOf(module.workingFolderReference).getDataFolder()) +
+        "Data");
   });
   proc.step([&] { dialog->setDialogTitle("Select client files"); });
   proc.step([&] { dialog->setFilter("All Files (*.*)|*.*"); });

@@ -95,9 +95,7 @@ void nvDocumentQuillbox::setupDocumentsDisplay() {
           };
           proc.step([&] { row = &lvDocuments_.ListItems().Add(); });
           proc.step([&] { theRow().setText(objectOf(document).documentName()); });
-          proc.step([&] {
-            theRow().setTag(documentTag(objectOf(document).documentID(), path));
-          });
+          proc.step([&] { theRow().setTag(documentTag(objectOf(document).documentID(), path)); });
           // Size and dates come from the file itself, read afresh for each row.
           auto fileDate = [&](int16_t kind) {
             return Format(objectOf(module.fileUtilities).getFileDate(path, kind, true),

@@ -49,7 +49,8 @@ bool nvDocumentQuillbox::openSelectedDocumentsFiles() {
     bool selected = false;
     proc.step([&] {
       // A dialog opened for an earlier row may have left the list shorter.
-      selected = i <= lvDocuments_.ListItems().Count() && lvDocuments_.ListItems().item(i).Selected();
+      selected =
+          i <= lvDocuments_.ListItems().Count() && lvDocuments_.ListItems().item(i).Selected();
     });
     if (!selected) continue;
 

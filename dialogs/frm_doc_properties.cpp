@@ -90,8 +90,7 @@ void frmDocProperties::buildControls() {
       "You want to make sure that the network computer storing all of your clients' files is "
       "accessible from each of the computers running Orvanta. The next step is to map a network "
       "drive letter to the common network folder on each computer running Orvanta.",
-      "Note:",
-      "You must use the same mapped drive letter to the same location on all computers.",
+      "Note:", "You must use the same mapped drive letter to the same location on all computers.",
       "More help on sharing client files: https://quillbox.example/help/shared-files"};
   for (int16_t i = 0; i < kHelpLabels; ++i) {
     lblHelp_[i].setCaption(kHelp[i]);
@@ -127,9 +126,8 @@ void frmDocProperties::Initialize(
     proc.step([&] { refDocumentClass_ = refDocumentClass; });
     proc.step([&] { screen().setMousePointer(11); });
     proc.step([&] { PropertiesTab_.setTab(0); });
-    proc.step([&] {
-      objectOf(objectOf(module.localeReference).getFormHelper()).prepareForm(*this);
-    });
+    proc.step(
+        [&] { objectOf(objectOf(module.localeReference).getFormHelper()).prepareForm(*this); });
     proc.step([&] {
       workingPath_ = objectOf(refDocumentClass_).documentPath();
       computerName_ = refDocumentClass_->hostComputerName();
@@ -140,8 +138,8 @@ void frmDocProperties::Initialize(
       txtDateAdded_.setText(Format(objectOf(refDocumentClass_).dateAdded(), kDateAddedFormat));
     });
     proc.step([&] {
-      txtUserAdded_.setText(modDatabaseFunctions::getUserNameFromUserID(
-          objectOf(refDocumentClass_).addedByUserID()));
+      txtUserAdded_.setText(
+          modDatabaseFunctions::getUserNameFromUserID(objectOf(refDocumentClass_).addedByUserID()));
     });
     proc.step([&] { txtField_.setText(objectOf(refDocumentClass_).documentName()); });
     proc.step([&] {
@@ -224,9 +222,10 @@ void frmDocProperties::cmdBrowse_Click() {
     // Only the folder may change, never the name.
     proc.step([&] {
       objectOf(moduleState().msgboxClass)
-          .showMessage("You file you selected is not the same name as the one you are searching "
-                       "for.",
-                       3, this);
+          .showMessage(
+              "You file you selected is not the same name as the one you are searching "
+              "for.",
+              3, this);
     });
     return;
   }

@@ -102,10 +102,10 @@ class frmDocProperties : public Form {
   TabControl PropertiesTab_{"PropertiesTab"};
   Frame fraLinkInformation_{"fraLinkInformation"};
   Frame fraFileInformation_{"fraFileInformation"};
-  std::array<Label, 8> lblFieldCaption_{
-      Label{"lblFieldCaption", 0}, Label{"lblFieldCaption", 1}, Label{"lblFieldCaption", 2},
-      Label{"lblFieldCaption", 3}, Label{"lblFieldCaption", 4}, Label{"lblFieldCaption", 5},
-      Label{"lblFieldCaption", 6}, Label{"lblFieldCaption", 7}};
+  std::array<Label, 8> lblFieldCaption_{Label{"lblFieldCaption", 0}, Label{"lblFieldCaption", 1},
+                                        Label{"lblFieldCaption", 2}, Label{"lblFieldCaption", 3},
+                                        Label{"lblFieldCaption", 4}, Label{"lblFieldCaption", 5},
+                                        Label{"lblFieldCaption", 6}, Label{"lblFieldCaption", 7}};
   TextBox txtField_{"txtField", 0};
   TextBox txtDateAdded_{"txtDateAdded"};
   TextBox txtUserAdded_{"txtUserAdded"};

@@ -46,8 +46,10 @@ constexpr FieldChoice kFields[] = {{"<All>", 0},
                                    {"Document File Extension", 3},
                                    {"Document File Path", 4}};
 // The views of the results: caption and the list's View.
-constexpr FieldChoice kViews[] = {
-    {"Details", lvwReport}, {"List", lvwList}, {"Large Icons", lvwIcon}, {"Small Icons", lvwSmallIcon}};
+constexpr FieldChoice kViews[] = {{"Details", lvwReport},
+                                  {"List", lvwList},
+                                  {"Large Icons", lvwIcon},
+                                  {"Small Icons", lvwSmallIcon}};
 
 }  // namespace
 
@@ -70,10 +72,9 @@ void frmFindDocument::buildControls() {
 
   FindTab_.place(fraSearchCriteria_, 0);
   fraSearchCriteria_.setCaption("Search by Criteria");
-  for (Control* control :
-       std::initializer_list<Control*>{&lblSearchField_, &cboField2_, &lblSearchText_, &txtField_,
-                                       &chkField_[0], &chkField_[1], &optSearchClients_[0],
-                                       &optSearchClients_[1], &cmdFind_})
+  for (Control* control : std::initializer_list<Control*>{
+           &lblSearchField_, &cboField2_, &lblSearchText_, &txtField_, &chkField_[0], &chkField_[1],
+           &optSearchClients_[0], &optSearchClients_[1], &cmdFind_})
     fraSearchCriteria_.add(*control);
   FindTab_.place(cmdSearchComputerFiles_, 0);
   lblSearchField_.setCaption("Search Field:");
@@ -239,9 +240,8 @@ void frmFindDocument::Search() {
   Procedure proc(trace("Search"));
   proc.step([&] { rowsFound_ = 0; });
   proc.step([&] { FindResults_.ListItems().Clear(); });
-  proc.step([&] {
-    searchClients(findMatchMode(chkField_[0].Value() == 1, chkField_[1].Value() == 1));
-  });
+  proc.step(
+      [&] { searchClients(findMatchMode(chkField_[0].Value() == 1, chkField_[1].Value() == 1)); });
 }
 
 void frmFindDocument::searchClients(int16_t mode) {
@@ -306,11 +306,11 @@ void frmFindDocument::searchClients(int16_t mode) {
       const Variant company = db.getFieldValue(rs, Variant("CompanyIDNum"));
       const Variant contact = db.getFieldValue(rs, Variant("ContactIDNum"));
       if (!isBlankValue(company) && CLng(company) >= 0) {
-        item.ListSubItems().Add(
-            3, "", modDatabaseFunctions::getCompanyNameFromCompanyID(CLng(company)));
+        item.ListSubItems().Add(3, "",
+                                modDatabaseFunctions::getCompanyNameFromCompanyID(CLng(company)));
       } else if (!isBlankValue(contact) && CLng(contact) >= 0) {
-        item.ListSubItems().Add(
-            3, "", modDatabaseFunctions::getDisplayNameFromContactID(CLng(contact)));
+        item.ListSubItems().Add(3, "",
+                                modDatabaseFunctions::getDisplayNameFromContactID(CLng(contact)));
       }
     }
   });
@@ -330,7 +330,8 @@ void frmFindDocument::cmdGoTo_Click() {
   ListItem* selected = nullptr;
   proc.step([&] { selected = FindResults_.SelectedItem(); });
   if (selected == nullptr) {
-    proc.step([&] { showMessage("You must select an item from the list of search results.", 4, this); });
+    proc.step(
+        [&] { showMessage("You must select an item from the list of search results.", 4, this); });
     return;
   }
   proc.step([&] { DocumentIDFound_ = CLng(Variant(selected->SubItems(1))); });
@@ -360,7 +361,8 @@ void frmFindDocument::cboField_Click(int16_t index) {
 void frmFindDocument::cboField_KeyPress(int16_t index, int16_t& keyAscii) {
   Procedure proc(trace("cboField_KeyPress"));
   proc.step([&] {
-    keyAscii = objectOf(moduleState().generalUtilities).comboAutoComplete(cboField(index), keyAscii);
+    keyAscii =
+        objectOf(moduleState().generalUtilities).comboAutoComplete(cboField(index), keyAscii);
   });
 }
 
@@ -409,8 +411,7 @@ void frmFindDocument::cmdSearchComputerFiles_Click() {
     // The file manager opens on the firm's "Data" folder, else on the data
     // folder itself.
     fileUtilitiesClass files;
-    const std::string dataFolder =
-        objectOf(moduleState().workingFolderReference).getDataFolder();
+    const std::string dataFolder = objectOf(moduleState().workingFolderReference).getDataFolder();
     const std::string data = files.addTrailingBackslash(dataFolder) + "Data";
     shellObject_->FindFiles(files.folderExists(data) ? data : dataFolder);
   });

@@ -81,7 +81,7 @@ class frmFindDocument : public Form {
   TabControl& FindTab() { return FindTab_; }
   ComboBox& cboField(int16_t index);  // 2 the field, 3 the views
   TextBox& txtField(int16_t index = 0);
-  CheckBox& chkField(int16_t index);  // 0 whole phrase, 1 match case
+  CheckBox& chkField(int16_t index);              // 0 whole phrase, 1 match case
   OptionButton& optSearchClients(int16_t index);  // 0 this client, 1 all clients
   Label& lblSearchField() { return lblSearchField_; }
   Label& lblSearchText() { return lblSearchText_; }
@@ -101,8 +101,7 @@ class frmFindDocument : public Form {
   void populateViewsComboBox();
   void Search();
   void searchClients(int16_t mode);
-  void findMatch(const std::string& text, const std::string& searchText, int16_t mode,
-                 bool& found);
+  void findMatch(const std::string& text, const std::string& searchText, int16_t mode, bool& found);
 
   bool cancelFlag_ = false;
   int32_t DocumentIDFound_ = 0;

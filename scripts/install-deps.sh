@@ -7,12 +7,13 @@ packages=(
   cmake g++ make pkg-config
   libsqlite3-dev sqlite3
   libpugixml-dev
-  qt6-base-dev qt6-base-dev-tools libgl-dev
+  qt6-base-dev qt6-base-dev-tools libgl-dev libqt6dbus6
   libgtest-dev googletest
   libbenchmark-dev
   unrtf
   adwaita-icon-theme hicolor-icon-theme
   fonts-dejavu-core
+  dbus-daemon
 )
 
 missing=()

@@ -13,6 +13,7 @@
 #include <iostream>
 
 #include "app/desk/client_picker_dialog.h"
+#include "app/desk/desktop_services.h"
 #include "app/desk/dialog_error_object.h"
 #include "control/nv_document_quillbox.h"
 #include "data/mod_database_functions.h"
@@ -24,6 +25,7 @@
 #include "services/host/module_state.h"
 #include "services/host/working_folder.h"
 #include "services/store/sqlite_database.h"
+#include "services/util/standard_form_helper.h"
 
 namespace qb::desk {
 
@@ -55,6 +57,7 @@ ClientWindow::ClientWindow(const DeskOptions& options, QWidget* parent)
     errors_->setUnattended(&std::cerr);
     messages_->setUnattended(&std::cerr);
   }
+  desktop_ = std::make_unique<DesktopServices>(this, options_.unattended ? &std::cerr : nullptr);
   setWindowTitle("Client Documents");
   setWindowIcon(QIcon::fromTheme("x-office-address-book"));
   auto* central = new QWidget(this);
@@ -95,6 +98,8 @@ void ClientWindow::buildMenus() {
   client->addAction(QIcon::fromTheme("edit-find"), "F&ind Client…", QKeySequence::Find, this,
                     [this] { findClient(); });
 
+  buildDocumentMenu();
+
   QMenu* view = menuBar()->addMenu("&View");
   views_ = new QActionGroup(this);
   for (const ViewEntry& entry : kViews) {
@@ -132,6 +137,7 @@ bool ClientWindow::openDatabase(const QString& path) {
   locale_->userID = options_.user;
   locale_->productLabel = kProduct;
   locale_->ownerForm = owner_.get();
+  locale_->formHelper = desktop_->formHelper();
   hostComponent();
   statusBar()->showMessage(QDir::toNativeSeparators(path), 4000);
   return true;

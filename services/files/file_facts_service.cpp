@@ -161,22 +161,21 @@ std::shared_ptr<FileFactsService::Pending> FileFactsService::submit(const std::s
   if (!counter) counter = std::make_shared<std::atomic<int>>(0);
   ++*counter;
   ++(inUse ? inUseCalls_ : metadataCalls_);
-  WorkerPool::instance().submit(
-      [pending, counter, backend = backend_, path, inUse] {
-        FileFacts facts;
-        bool held = false;
-        if (inUse) {
-          held = backend->inUse(path);
-        } else {
-          facts = backend->query(path);
-        }
-        --*counter;
-        std::lock_guard<std::mutex> lock(pending->mutex);
-        pending->facts = facts;
-        pending->inUse = held;
-        pending->done = true;
-        pending->answered.notify_all();
-      });
+  WorkerPool::instance().submit([pending, counter, backend = backend_, path, inUse] {
+    FileFacts facts;
+    bool held = false;
+    if (inUse) {
+      held = backend->inUse(path);
+    } else {
+      facts = backend->query(path);
+    }
+    --*counter;
+    std::lock_guard<std::mutex> lock(pending->mutex);
+    pending->facts = facts;
+    pending->inUse = held;
+    pending->done = true;
+    pending->answered.notify_all();
+  });
   return pending;
 }
 

@@ -83,9 +83,9 @@ std::string unescapeMountPath(std::string_view text) {
 
 bool isRemoteFileSystem(const std::string& type) {
   static const char* const kRemote[] = {
-      "nfs",  "nfs4",   "cifs",      "smb3",   "smbfs", "ncpfs", "ncp",   "afs",    "9p",
-      "ceph", "glusterfs", "lustre", "gpfs",   "davfs", "coda",  "autofs", "fuse", "fuseblk",
-      "sshfs", "virtiofs", "vboxsf", "vmhgfs", "ocfs2", "gfs2"};
+      "nfs",  "nfs4",    "cifs",      "smb3",     "smbfs",  "ncpfs",  "ncp",   "afs",
+      "9p",   "ceph",    "glusterfs", "lustre",   "gpfs",   "davfs",  "coda",  "autofs",
+      "fuse", "fuseblk", "sshfs",     "virtiofs", "vboxsf", "vmhgfs", "ocfs2", "gfs2"};
   if (type.rfind("fuse.", 0) == 0) return true;
   for (const char* remote : kRemote)
     if (type == remote) return true;

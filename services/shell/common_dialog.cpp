@@ -15,9 +15,7 @@ bool CommonDialog::ShowOpen() {
   return true;
 }
 
-void installFileDialogService(FileDialogService service) {
-  fileDialogService = std::move(service);
-}
+void installFileDialogService(FileDialogService service) { fileDialogService = std::move(service); }
 
 std::string multipleFileResult(const std::string& folder, const std::vector<std::string>& names) {
   std::string result = folder;

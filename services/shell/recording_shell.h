@@ -13,7 +13,7 @@ class RecordingShell : public Shell {
  public:
   std::vector<std::string> calls;
   std::vector<SHELLEXECUTEINFO> requests;  // the ShellExecuteEx records
-  int64_t openResult = 42;               // what ShellExecuteA answers
+  int64_t openResult = 42;                 // what ShellExecuteA answers
 
   int64_t ShellExecuteA(int64_t, const std::string& operation, const std::string& file,
                         const std::string&, const std::string&, int32_t) override {

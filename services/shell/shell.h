@@ -34,9 +34,9 @@ class Shell {
   // Runs the verb on the file: "open" starts the desktop's default
   // application for its type and returns without waiting for it. Returns a
   // value above 32 when the request went out.
-  virtual int64_t ShellExecuteA(int64_t hwnd, const std::string& operation,
-                                const std::string& file, const std::string& parameters,
-                                const std::string& directory, int32_t showCommand) = 0;
+  virtual int64_t ShellExecuteA(int64_t hwnd, const std::string& operation, const std::string& file,
+                                const std::string& parameters, const std::string& directory,
+                                int32_t showCommand) = 0;
   // Verb "properties": the file manager's properties window for lpFile. True
   // when the request went out; the answer is not waited for.
   virtual bool ShellExecuteEx(SHELLEXECUTEINFO& info) = 0;

@@ -2,8 +2,8 @@
 
 #include "services/controls/combo_box.h"
 #include "services/controls/list_view.h"
-#include "services/runtime/strings.h"
 #include "services/controls/tree_view.h"
+#include "services/runtime/strings.h"
 
 namespace qb {
 

@@ -79,21 +79,21 @@ TEST_F(DocumentCommandsTest, AddingFilesLinksThemAndRefusesFoldersAndPathsThatAr
     settings = dialog.InitDir() + "|" + dialog.DialogTitle() + "|" + dialog.Filter() + "|" +
                std::to_string(dialog.FilterIndex()) + "|" + std::to_string(dialog.Flags()) + "|" +
                std::to_string(dialog.hWndOwner());
-    dialog.setFileName(multipleFileResult(
-        incoming + "/", {"Relevé de compte été.pdf", "Scans", "vanished.txt"}));
+    dialog.setFileName(
+        multipleFileResult(incoming + "/", {"Relevé de compte été.pdf", "Scans", "vanished.txt"}));
     return true;
   });
   size_t pointers = screen().pointerHistory().size();
   int32_t pumps = doEventsCount();
   EXPECT_FALSE(quillbox.addDocumentFiles());
 
-  EXPECT_EQ(settings, db.folder().path().string() + "/Data|Select client files|All Files (*.*)|*.*|0|528900|4242");
-  EXPECT_EQ(messageTexts(),
-            (std::vector<std::string>{
-                "You are trying to add the folder '" + incoming +
-                    "/Scans'.  You cannot add a folder to the Orvanta Quillbox.",
-                "Orvanta could not add the file '" + incoming +
-                    "/vanished.txt' to the Document Quillbox."}));
+  EXPECT_EQ(settings, db.folder().path().string() +
+                          "/Data|Select client files|All Files (*.*)|*.*|0|528900|4242");
+  EXPECT_EQ(messageTexts(), (std::vector<std::string>{
+                                "You are trying to add the folder '" + incoming +
+                                    "/Scans'.  You cannot add a folder to the Orvanta Quillbox.",
+                                "Orvanta could not add the file '" + incoming +
+                                    "/vanished.txt' to the Document Quillbox."}));
   EXPECT_EQ(messages->messages[0].style, 4);
   EXPECT_EQ(messages->messages[0].owner, &owner);
   // The link is in the selected category, for its client, and on show.
@@ -137,7 +137,8 @@ TEST_F(DocumentCommandsTest, WithNoCategorySelectedTheLinkIsRefusedByTheLibrary)
   EXPECT_EQ(db.scalar("SELECT COUNT(*) FROM Documents"), "4");
 }
 
-TEST_F(DocumentCommandsTest, OpeningWalksTheSelectionLastFirstAsksForFilesInUseAndExplainsMissingOnes) {
+TEST_F(DocumentCommandsTest,
+       OpeningWalksTheSelectionLastFirstAsksForFilesInUseAndExplainsMissingOnes) {
   start(quillbox);
   std::string merge = addDocument(14, 2, "Engagement.omd", 10, "Engagement", 1);
   std::string gone = addDocument(15, 2, "gone.pdf", 10, "Gone", 1);

@@ -49,8 +49,8 @@ class DialogTest : public ::testing::Test {
   }
 
   // A link row; client "company:N" or "contact:N" or "" for none.
-  void addLink(int id, const std::string& client, const std::string& name,
-               const std::string& path, const std::string& computer = "OFFICE-1") {
+  void addLink(int id, const std::string& client, const std::string& name, const std::string& path,
+               const std::string& computer = "OFFICE-1") {
     std::string company = "NULL", contact = "NULL";
     if (client.rfind("company:", 0) == 0) company = client.substr(8);
     if (client.rfind("contact:", 0) == 0) contact = client.substr(8);

@@ -27,8 +27,7 @@ class DocPropertiesTest : public DialogTest {
     return loaded;
   }
   std::string column(int id, const std::string& name) {
-    return db.scalar("SELECT " + name + " FROM Documents WHERE DocumentID = " +
-                     std::to_string(id));
+    return db.scalar("SELECT " + name + " FROM Documents WHERE DocumentID = " + std::to_string(id));
   }
   static std::string thisComputer() { return fileUtilitiesClass().getComputerName(); }
 };
@@ -142,8 +141,8 @@ TEST_F(DocPropertiesTest, BrowseOnlyAcceptsTheSameNameAndPointsTheLinkThereOnClo
   std::filesystem::permissions(moved, std::filesystem::perms::owner_read);
   addLink(30, "company:1", "Budget", old, thisComputer());
 
-  std::vector<std::string> answers = {"", other, db.folder().file("Clients/Acme/../Acme/") +
-                                                     "BUDGET 2024.XLSX"};
+  std::vector<std::string> answers = {
+      "", other, db.folder().file("Clients/Acme/../Acme/") + "BUDGET 2024.XLSX"};
   std::vector<std::string> asked;
   installFileDialogService([&](CommonDialog& dialog) {
     asked.push_back(dialog.DialogTitle() + "|" + dialog.Filter() + "|" +
@@ -192,7 +191,8 @@ TEST_F(DocPropertiesTest, BrowseOnlyAcceptsTheSameNameAndPointsTheLinkThereOnClo
   EXPECT_EQ(column(30, "DocIconName"), "Budget (moved)");
 }
 
-TEST_F(DocPropertiesTest, ARefusedBrowseStillSavesTheOldPathWithTheEditedNameAndTheButtonShowsTheFileManager) {
+TEST_F(DocPropertiesTest,
+       ARefusedBrowseStillSavesTheOldPathWithTheEditedNameAndTheButtonShowsTheFileManager) {
   std::string folder = db.folder().file("Acme");
   std::string old = db.folder().file("Acme/letter.odt");
   std::filesystem::create_directories(folder);

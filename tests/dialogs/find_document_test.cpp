@@ -138,8 +138,9 @@ TEST_F(FindDocumentTest, EachFieldModeAndScopeFindsWhatItShould) {
             "Ann's tax slips|5|.pdf|Ann Lee\n");
   EXPECT_EQ(seen[1], "Tax Return|4|.PDF|Birch & Sons\n");
   EXPECT_EQ(seen[2], "Tax Return|4|return|Birch & Sons\n");
-  EXPECT_EQ(seen[3],
-            "2005 Tax Return|1|2005 Tax Return|Acme Holdings\nTax Return|4|Tax Return|Birch & Sons\n");
+  EXPECT_EQ(
+      seen[3],
+      "2005 Tax Return|1|2005 Tax Return|Acme Holdings\nTax Return|4|Tax Return|Birch & Sons\n");
   EXPECT_EQ(seen[4], "");
   EXPECT_EQ(found, -1);
   EXPECT_TRUE(form.cancelFlag());
@@ -184,10 +185,10 @@ TEST_F(FindDocumentTest, TheThreeMessagesEnterViewsAndSorting) {
     styles.push_back(message.style);
     EXPECT_EQ(message.owner, &form);
   }
-  EXPECT_EQ(texts, (std::vector<std::string>{
-                       "You must enter a search criteria in the 'Search Text' field",
-                       "There are no records that match your criteria.",
-                       "You must select an item from the list of search results."}));
+  EXPECT_EQ(texts,
+            (std::vector<std::string>{"You must enter a search criteria in the 'Search Text' field",
+                                      "There are no records that match your criteria.",
+                                      "You must select an item from the list of search results."}));
   EXPECT_EQ(styles, (std::vector<int16_t>{10, 15, 4}));
   // No "Data" folder in the firm's folder: the file manager opens on the folder.
   EXPECT_EQ(shell->calls, std::vector<std::string>{"find " + db.folder().path().string()});

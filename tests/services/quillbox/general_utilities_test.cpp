@@ -4,8 +4,8 @@
 #include "services/controls/form.h"
 #include "services/controls/list_view.h"
 #include "services/controls/text_box.h"
-#include "services/runtime/strings.h"
 #include "services/controls/tree_view.h"
+#include "services/runtime/strings.h"
 #include "services/util/general_utilities_class.h"
 #include "services/util/standard_form_helper.h"
 
