@@ -6,6 +6,7 @@
 
 #include <functional>
 #include <map>
+#include <optional>
 #include <ostream>
 #include <set>
 #include <string>
@@ -34,7 +35,7 @@ struct UsageError : std::runtime_error {
 };
 
 // What a command's run gets: its arguments, the output stream, and the
-// global locale flags.
+// global locale and clock flags.
 struct Context {
   Arguments args;
   std::ostream& out;
@@ -42,6 +43,7 @@ struct Context {
   int32_t country = 1;
   int32_t province = 3;
   int32_t user = 1;
+  std::optional<double> today = std::nullopt;  // --today as a date serial; none: the machine's date
 };
 
 struct Command {

@@ -7,6 +7,7 @@
 #include <sstream>
 
 #include "app/cli/command.h"
+#include "services/runtime/dates.h"
 
 namespace {
 
@@ -19,6 +20,8 @@ const char* kGlobalHelp =
     "  --country N    the firm's country: 1 Canada, 2 United States (default 1)\n"
     "  --province N   the firm's province code (default 3, Ontario)\n"
     "  --user N       the signed-in user's id (default 1)\n"
+    "  --today DATE   today's date as YYYY-MM-DD for everything that reads it\n"
+    "                 (default: the machine's date)\n"
     "  --help         describe the tool, or the command given\n";
 
 void printToolHelp(std::ostream& out) {
@@ -29,7 +32,7 @@ void printToolHelp(std::ostream& out) {
             [](const Command& a, const Command& b) { return a.name < b.name; });
   for (const Command& command : commands) {
     out << "  " << command.name
-        << std::string(command.name.size() < 16 ? 16 - command.name.size() : 1, ' ')
+        << std::string(command.name.size() < 18 ? 18 - command.name.size() : 1, ' ')
         << command.summary << "\n";
   }
   out << "\n" << kGlobalHelp << "\nRun 'quillbox COMMAND --help' for a command's options.\n";
@@ -69,6 +72,20 @@ int32_t globalNumber(const qb::cli::Arguments& args, const std::string& name, in
   return args.id(name, fallback);
 }
 
+// --today YYYY-MM-DD as a date serial; none when the flag is not given.
+std::optional<double> todayFlag(const qb::cli::Arguments& args) {
+  if (!args.has("today")) return std::nullopt;
+  const std::string text = args.value("today");
+  const bool shaped = text.size() == 10 && text[4] == '-' && text[7] == '-' &&
+                      std::all_of(text.begin(), text.end(),
+                                  [](char c) { return c == '-' || (c >= '0' && c <= '9'); });
+  double serial = 0;
+  if (!shaped || !qb::parseDate(text, serial)) {
+    throw UsageError("--today takes a date as YYYY-MM-DD, not '" + text + "'");
+  }
+  return serial;
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -76,7 +93,7 @@ int main(int argc, char** argv) {
   const Command* command = nullptr;
   bool help = false;
   qb::cli::Arguments args;
-  const std::vector<std::string> globalValues = {"country", "province", "user"};
+  const std::vector<std::string> globalValues = {"country", "province", "user", "today"};
 
   try {
     for (size_t i = 0; i < words.size(); ++i) {
@@ -136,6 +153,7 @@ int main(int argc, char** argv) {
     context.country = globalNumber(args, "country", 1);
     context.province = globalNumber(args, "province", 3);
     context.user = globalNumber(args, "user", 1);
+    context.today = todayFlag(args);
     return command->run(context);
   } catch (const UsageError& error) {
     std::cerr << "quillbox: " << error.what() << "\n";

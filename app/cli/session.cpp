@@ -3,20 +3,22 @@
 #include <filesystem>
 #include <stdexcept>
 
+#include "services/host/clock.h"
 #include "services/host/module_state.h"
 
 namespace qb::cli {
 
-Session::Session(Context& context)
+Session::Session(Context& context, Database database)
     : store_(std::make_shared<SqliteDatabase>()),
       errors_(std::make_shared<ConsoleErrorObject>(&context.err)),
       locale_(std::make_shared<FixedLocale>()) {
-  std::string path = context.args.required("db");
-  if (!std::filesystem::exists(path)) {
+  const bool withoutDatabase = database == Database::Optional && !context.args.has("db");
+  std::string path = withoutDatabase ? "" : context.args.required("db");
+  if (!withoutDatabase && !std::filesystem::exists(path)) {
     throw std::runtime_error("no database at '" + path + "' (create one with 'quillbox init --db " +
                              path + " --sample')");
   }
-  store_->open(path);
+  if (!withoutDatabase) store_->open(path);
   locale_->countryCode = context.country;
   locale_->provinceCode = context.province;
   locale_->userID = context.user;
@@ -24,6 +26,7 @@ Session::Session(Context& context)
   moduleState().databaseReference = store_;
   moduleState().errorClass = errors_;
   moduleState().localeReference = locale_;
+  if (context.today) moduleState().clock = std::make_shared<FixedClock>(*context.today);
 }
 
 Session::~Session() { resetModuleState(); }

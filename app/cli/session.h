@@ -1,7 +1,8 @@
 #pragma once
 // A command's session on a database file: opens the store and installs it,
-// a console error object and the locale of the global flags as this thread's
-// module state. exitStatus() is 1 when the error object recorded a failure.
+// a console error object, the locale of the global flags and the clock of
+// --today as this thread's module state. exitStatus() is 1 when the error
+// object recorded a failure.
 //
 //   Session session(context);   // --db is required
 //   context.out << modDatabaseFunctions::getCompanyNameFromCompanyID(7);
@@ -18,9 +19,13 @@ namespace qb::cli {
 
 class Session {
  public:
+  // Whether the command can run without --db.
+  enum class Database { Required, Optional };
+
   // Opens --db (which must exist); throws UsageError without --db and a
-  // std::runtime_error when the file can't be opened.
-  explicit Session(Context& context);
+  // std::runtime_error when the file can't be opened. With Optional and no
+  // --db the store is installed unconnected: it answers isConnected False.
+  explicit Session(Context& context, Database database = Database::Required);
   ~Session();
 
   SqliteDatabase& store() { return *store_; }

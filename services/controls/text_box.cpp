@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "services/controls/control_failures.h"
 #include "services/controls/form.h"
 #include "services/runtime/strings.h"
 
@@ -16,10 +17,16 @@ void TextBox::setText(std::string value) {
   Change.raise();
 }
 
-void TextBox::select(int32_t start, int32_t length) {
-  const int32_t size = Len(text_);
-  selStart_ = std::clamp(start, 0, size);
-  selLength_ = std::clamp(length, 0, size - selStart_);
+void TextBox::setSelStart(int32_t value) {
+  if (value < 0) control_failures::invalidProperty();
+  selStart_ = std::min(value, Len(text_));
+  selLength_ = 0;
+  notify(ControlChange::Selection);
+}
+
+void TextBox::setSelLength(int32_t value) {
+  if (value < 0) control_failures::invalidProperty();
+  selLength_ = std::min(value, Len(text_) - selStart_);
   notify(ControlChange::Selection);
 }
 

@@ -19,9 +19,13 @@ class TextBox : public Control {
   // The selected part of the text: its start (characters before it) and
   // length. Setting the text puts the caret at its end with nothing selected.
   int32_t SelStart() const { return selStart_; }
+  // Places the caret (past the end: at the end; negative: refused with
+  // err::kInvalidProperty); nothing is selected.
+  void setSelStart(int32_t value);
   int32_t SelLength() const { return selLength_; }
-  // Selects from start (clamped to the text) for length characters (clamped).
-  void select(int32_t start, int32_t length);
+  // Selects that many characters from the caret, at most to the end
+  // (negative: refused with err::kInvalidProperty).
+  void setSelLength(int32_t value);
   // 0 means no limit; otherwise typeText keeps at most this many characters.
   int32_t MaxLength() const { return maxLength_; }
   void setMaxLength(int32_t value) { maxLength_ = value; }

@@ -43,7 +43,8 @@ int16_t generalUtilitiesClass::comboAutoComplete(ComboBox& combo, int16_t keyAsc
   for (int32_t i = 0; i < combo.ListCount(); ++i) {
     if (!equalsText(Left(combo.List(i), Len(typed)), typed)) continue;
     combo.setListIndex(i);
-    combo.select(Len(typed), Len(combo.Text()) - Len(typed));
+    combo.setSelStart(Len(typed));
+    combo.setSelLength(Len(combo.Text()) - Len(typed));
     break;
   }
   return 0;

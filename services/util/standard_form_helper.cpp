@@ -9,14 +9,25 @@ namespace qb {
 
 void StandardFormHelper::prepareForm(Form& form) { prepared_.push_back(form.Name()); }
 
+namespace {
+
+// Selects the whole text of a text or combo box, or puts the caret at its end.
+template <class Box>
+void selectAll(Box& box, bool whole) {
+  box.setSelStart(whole ? 0 : Len(box.Text()));
+  if (whole) box.setSelLength(Len(box.Text()));
+}
+
+}  // namespace
+
 void StandardFormHelper::controlGotFocus(Control& control) {
-  if (auto* box = dynamic_cast<TextBox*>(&control)) box->select(0, Len(box->Text()));
-  if (auto* combo = dynamic_cast<ComboBox*>(&control)) combo->select(0, Len(combo->Text()));
+  if (auto* box = dynamic_cast<TextBox*>(&control)) selectAll(*box, true);
+  if (auto* combo = dynamic_cast<ComboBox*>(&control)) selectAll(*combo, true);
 }
 
 void StandardFormHelper::controlLostFocus(Control& control) {
-  if (auto* box = dynamic_cast<TextBox*>(&control)) box->select(Len(box->Text()), 0);
-  if (auto* combo = dynamic_cast<ComboBox*>(&control)) combo->select(Len(combo->Text()), 0);
+  if (auto* box = dynamic_cast<TextBox*>(&control)) selectAll(*box, false);
+  if (auto* combo = dynamic_cast<ComboBox*>(&control)) selectAll(*combo, false);
 }
 
 void StandardFormHelper::controlKeyUp(Control&, int16_t, int16_t) {}

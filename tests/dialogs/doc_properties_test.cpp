@@ -57,7 +57,8 @@ TEST_F(DocPropertiesTest, APresentFileShowsItsFactsAndCloseSavesTheNameAsTyped) 
     // The user renames the link: the name takes the focus with its text
     // selected, and typing replaces it.
     form.txtField().SetFocus();
-    form.txtField().select(0, Len(form.txtField().Text()));
+    form.txtField().setSelStart(0);
+    form.txtField().setSelLength(Len(form.txtField().Text()));
     form.txtField().typeText("T2 Return 2024 (filed)");
     form.cmdClose().click();
     EXPECT_FALSE(form.Visible());

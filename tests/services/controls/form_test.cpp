@@ -98,11 +98,13 @@ TEST_F(FormTest, KeyPreviewLetsTheFormSeeKeysFirstAndSwallowThem) {
 TEST_F(FormTest, TypingReplacesTheSelectionAndBackspaceTakesItBack) {
   TextBox box{"txtField", 0};
   box.setText("2024 Return");
-  box.select(0, 4);
+  box.setSelStart(0);
+  box.setSelLength(4);
   EXPECT_EQ(box.typeText("2025"), "2025 Return");
   EXPECT_EQ(box.SelStart(), 4);
   EXPECT_EQ(box.typeText("\b\b"), "20 Return");
-  box.select(3, 100);  // clamped to the text
+  box.setSelStart(3);
+  box.setSelLength(100);  // at most to the end
   EXPECT_EQ(box.SelLength(), 6);
   EXPECT_EQ(box.typeText("\b"), "20 ");
   EXPECT_EQ(box.typeText("é\r\t"), "20 é");  // control keys type nothing

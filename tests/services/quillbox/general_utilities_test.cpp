@@ -39,7 +39,7 @@ TEST(GeneralUtilities, ComboTypeAheadChoosesTheFirstEntryBeginningWithWhatWasTyp
                             "Document File Extension", "Document File Path"})
     combo.AddItem(entry);
   combo.setListIndex(0);
-  combo.select(0, 0);
+  combo.setSelStart(0);
   EXPECT_EQ(utilities.comboAutoComplete(combo, 'd'), 0);
   EXPECT_EQ(combo.ListIndex(), 1);
   EXPECT_EQ(combo.SelStart(), 1);
