@@ -17,8 +17,7 @@ QUrl fileUrl(const std::string& path) { return QUrl::fromLocalFile(QString::from
 }  // namespace
 
 DesktopShell::DesktopShell()
-    : bus_(QDBusConnection::sessionBus()),
-      open_([](const QUrl& url) { return QDesktopServices::openUrl(url); }) {}
+    : open_([](const QUrl& url) { return QDesktopServices::openUrl(url); }) {}
 
 bool DesktopShell::unattendedRequest(const std::string& text) {
   if (!unattended_) return false;
@@ -57,13 +56,14 @@ void DesktopShell::FindFiles(const std::string& folder) {
 
 void DesktopShell::askFileManager(const QString& method, const QStringList& uris,
                                   std::function<void()> fallback) {
-  if (!bus_.isConnected()) {
+  if (!bus_) bus_ = QDBusConnection::sessionBus();
+  if (!bus_->isConnected()) {
     fallback();
     return;
   }
   QDBusMessage call = QDBusMessage::createMethodCall(kService, kPath, kService, method);
   call << uris << QString();  // no startup notification id
-  auto* watcher = new QDBusPendingCallWatcher(bus_.asyncCall(call, kFileManagerTimeoutMs), this);
+  auto* watcher = new QDBusPendingCallWatcher(bus_->asyncCall(call, kFileManagerTimeoutMs), this);
   connect(watcher, &QDBusPendingCallWatcher::finished, this,
           [fallback = std::move(fallback)](QDBusPendingCallWatcher* answer) {
             if (answer->isError()) fallback();

@@ -15,6 +15,7 @@
 #include <QStringList>
 #include <QUrl>
 #include <functional>
+#include <optional>
 #include <ostream>
 
 #include "services/shell/shell.h"
@@ -31,7 +32,8 @@ class DesktopShell : public QObject, public Shell {
   bool ShellExecuteEx(SHELLEXECUTEINFO& info) override;
   void FindFiles(const std::string& folder) override;
 
-  // The bus the file manager is asked on (the session bus by default).
+  // The bus the file manager is asked on (by default the session bus,
+  // connected at the first request).
   void setBus(const QDBusConnection& bus) { bus_ = bus; }
   // What opens a URL with its default application (QDesktopServices::openUrl
   // by default); tests record instead.
@@ -52,7 +54,7 @@ class DesktopShell : public QObject, public Shell {
                       std::function<void()> fallback);
   bool unattendedRequest(const std::string& text);
 
-  QDBusConnection bus_;
+  std::optional<QDBusConnection> bus_;
   std::function<bool(const QUrl&)> open_;
   bool unattended_ = false;
   std::ostream* log_ = nullptr;
