@@ -2,6 +2,7 @@
 
 #include "data/mod_database_functions.h"
 #include "dialogs/missing_file_diagnosis.h"
+#include "services/controls/control_array.h"
 #include "services/controls/platform.h"
 #include "services/errors/object_required.h"
 #include "services/errors/procedure.h"
@@ -100,21 +101,12 @@ void frmDocProperties::buildControls() {
 }
 
 Label& frmDocProperties::lblFieldCaption(int16_t index) {
-  if (index < 0 || index >= static_cast<int16_t>(lblFieldCaption_.size()))
-    throw RuntimeError(err::kSubscript, "Subscript out of range");
-  return lblFieldCaption_[index];
+  return controlAt(lblFieldCaption_, index);
 }
 
-TextBox& frmDocProperties::txtField(int16_t index) {
-  if (index != 0) throw RuntimeError(err::kSubscript, "Subscript out of range");
-  return txtField_;
-}
+TextBox& frmDocProperties::txtField(int16_t index) { return onlyControl(txtField_, index); }
 
-Label& frmDocProperties::lblHelp(int16_t index) {
-  if (index < 0 || index >= kHelpLabels)
-    throw RuntimeError(err::kSubscript, "Subscript out of range");
-  return lblHelp_[index];
-}
+Label& frmDocProperties::lblHelp(int16_t index) { return controlAt(lblHelp_, index); }
 
 void frmDocProperties::Initialize(
     const std::shared_ptr<docQuillboxDocumentClass>& refDocumentClass) {

@@ -2,6 +2,7 @@
 
 #include "data/mod_database_functions.h"
 #include "dialogs/find_match.h"
+#include "services/controls/control_array.h"
 #include "services/controls/platform.h"
 #include "services/errors/object_required.h"
 #include "services/errors/procedure.h"
@@ -22,8 +23,6 @@ namespace {
 std::string trace(const char* procedure) {
   return std::string("Orvanta.exe-frmFindDocument-") + procedure;
 }
-
-[[noreturn]] void noSuchElement() { throw RuntimeError(err::kSubscript, "Subscript out of range"); }
 
 DatabaseReference& store() { return objectOf(moduleState().databaseReference); }
 
@@ -114,24 +113,16 @@ void frmFindDocument::wireEvents() {
 }
 
 ComboBox& frmFindDocument::cboField(int16_t index) {
-  if (index == 2) return cboField2_;
   if (index == 3) return cboField3_;
-  noSuchElement();
+  return onlyControl(cboField2_, static_cast<int16_t>(index - 2));
 }
 
-TextBox& frmFindDocument::txtField(int16_t index) {
-  if (index != 0) noSuchElement();
-  return txtField_;
-}
+TextBox& frmFindDocument::txtField(int16_t index) { return onlyControl(txtField_, index); }
 
-CheckBox& frmFindDocument::chkField(int16_t index) {
-  if (index < 0 || index > 1) noSuchElement();
-  return chkField_[index];
-}
+CheckBox& frmFindDocument::chkField(int16_t index) { return controlAt(chkField_, index); }
 
 OptionButton& frmFindDocument::optSearchClients(int16_t index) {
-  if (index < 0 || index > 1) noSuchElement();
-  return optSearchClients_[index];
+  return controlAt(optSearchClients_, index);
 }
 
 // ---- Opening -----------------------------------------------------------------

@@ -1,8 +1,5 @@
 #include "services/controls/combo_box.h"
 
-#include <algorithm>
-
-#include "services/controls/control_failures.h"
 #include "services/controls/form.h"
 #include "services/runtime/strings.h"
 
@@ -23,20 +20,16 @@ void ComboBox::setLocked(bool value) {
 
 void ComboBox::takeText(std::string value) {
   text_ = std::move(value);
-  selStart_ = Len(text_);
-  selLength_ = 0;
+  selection_.atEnd(text_);
 }
 
 void ComboBox::setSelStart(int32_t value) {
-  if (value < 0) control_failures::invalidProperty();
-  selStart_ = std::min(value, Len(text_));
-  selLength_ = 0;
+  selection_.place(value, text_);
   notify(ControlChange::Selection);
 }
 
 void ComboBox::setSelLength(int32_t value) {
-  if (value < 0) control_failures::invalidProperty();
-  selLength_ = std::min(value, Len(text_) - selStart_);
+  selection_.extend(value, text_);
   notify(ControlChange::Selection);
 }
 

@@ -7,6 +7,7 @@
 #include <string>
 
 #include "services/controls/list_control.h"
+#include "services/controls/text_selection.h"
 
 namespace qb {
 
@@ -23,11 +24,11 @@ class ComboBox : public ListControl {
   // The selected part of the edit text: its start (characters before it)
   // and length. A new Text or choice leaves nothing selected, the caret at
   // the end.
-  int32_t SelStart() const { return selStart_; }
+  int32_t SelStart() const { return selection_.start; }
   // Places the caret (past the end: at the end; negative: refused with
   // err::kInvalidProperty); nothing is selected.
   void setSelStart(int32_t value);
-  int32_t SelLength() const { return selLength_; }
+  int32_t SelLength() const { return selection_.length; }
   // Selects that many characters from the caret, at most to the end
   // (negative: refused with err::kInvalidProperty).
   void setSelLength(int32_t value);
@@ -47,8 +48,7 @@ class ComboBox : public ListControl {
 
   std::string text_;
   bool locked_ = false;
-  int32_t selStart_ = 0;
-  int32_t selLength_ = 0;
+  TextSelection selection_;
 };
 
 }  // namespace qb

@@ -1,8 +1,5 @@
 #include "services/controls/text_box.h"
 
-#include <algorithm>
-
-#include "services/controls/control_failures.h"
 #include "services/controls/form.h"
 #include "services/runtime/strings.h"
 
@@ -11,22 +8,18 @@ namespace qb {
 void TextBox::setText(std::string value) {
   if (value == text_) return;
   text_ = std::move(value);
-  selStart_ = Len(text_);
-  selLength_ = 0;
+  selection_.atEnd(text_);
   notify(ControlChange::Text);
   Change.raise();
 }
 
 void TextBox::setSelStart(int32_t value) {
-  if (value < 0) control_failures::invalidProperty();
-  selStart_ = std::min(value, Len(text_));
-  selLength_ = 0;
+  selection_.place(value, text_);
   notify(ControlChange::Selection);
 }
 
 void TextBox::setSelLength(int32_t value) {
-  if (value < 0) control_failures::invalidProperty();
-  selLength_ = std::min(value, Len(text_) - selStart_);
+  selection_.extend(value, text_);
   notify(ControlChange::Selection);
 }
 
@@ -58,19 +51,18 @@ const std::string& TextBox::typeText(const std::string& typed) {
     // The character replaces the selection, at the caret; Backspace takes
     // the selection or the character before the caret; other control keys
     // (Enter, Escape, Tab) type nothing into a line.
-    std::string before = qb::Left(text_, selStart_);
-    std::string after = Mid(text_, selStart_ + selLength_ + 1);
+    std::string before = qb::Left(text_, selection_.start);
+    std::string after = Mid(text_, selection_.start + selection_.length + 1);
     if (character == "\b") {
-      if (selLength_ == 0 && !before.empty()) before = qb::Left(before, Len(before) - 1);
+      if (selection_.length == 0 && !before.empty()) before = qb::Left(before, Len(before) - 1);
       setText(before + after);
-      selStart_ = Len(before);
+      selection_.place(Len(before), text_);
       continue;
     }
     if (static_cast<unsigned char>(character[0]) < 32) continue;
     if (maxLength_ > 0 && Len(before) + Len(after) >= maxLength_) continue;
     setText(before + character + after);
-    selStart_ = Len(before) + 1;
-    selLength_ = 0;
+    selection_.place(Len(before) + 1, text_);
   }
   return text_;
 }

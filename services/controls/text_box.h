@@ -4,6 +4,7 @@
 // by typeText). KeyPress, KeyUp, GotFocus and LostFocus come from Control.
 
 #include "services/controls/control.h"
+#include "services/controls/text_selection.h"
 
 namespace qb {
 
@@ -18,11 +19,11 @@ class TextBox : public Control {
   void setLocked(bool value);
   // The selected part of the text: its start (characters before it) and
   // length. Setting the text puts the caret at its end with nothing selected.
-  int32_t SelStart() const { return selStart_; }
+  int32_t SelStart() const { return selection_.start; }
   // Places the caret (past the end: at the end; negative: refused with
   // err::kInvalidProperty); nothing is selected.
   void setSelStart(int32_t value);
-  int32_t SelLength() const { return selLength_; }
+  int32_t SelLength() const { return selection_.length; }
   // Selects that many characters from the caret, at most to the end
   // (negative: refused with err::kInvalidProperty).
   void setSelLength(int32_t value);
@@ -46,8 +47,7 @@ class TextBox : public Control {
   std::string text_;
   bool locked_ = false;
   int32_t maxLength_ = 0;
-  int32_t selStart_ = 0;
-  int32_t selLength_ = 0;
+  TextSelection selection_;
 };
 
 }  // namespace qb

@@ -87,33 +87,26 @@ bool fileUtilitiesClass::folderExists(const std::string& path) const {
 FileAccessState fileUtilitiesClass::accessState(const std::string& path, bool* isFolder) const {
   if (isFolder != nullptr) *isFolder = false;
   if (path.empty()) return FileAccessState::missingFolder;
+  // A path that is not there as such: denied, unreachable, or missing.
+  auto notThere = [](FileReach reach, FileAccessState missing) {
+    if (reach == FileReach::denied) return FileAccessState::accessDenied;
+    if (reach == FileReach::unreachable) return FileAccessState::unreachable;
+    return missing;
+  };
   FileFacts facts = fileFacts().facts(path);
-  switch (facts.reach) {
-    case FileReach::present:
-      if (isFolder != nullptr) *isFolder = facts.isFolder;
-      return FileAccessState::reachable;
-    case FileReach::denied:
-      return FileAccessState::accessDenied;
-    case FileReach::unreachable:
-      return FileAccessState::unreachable;
-    case FileReach::missing:
-      break;
+  if (facts.present()) {
+    if (isFolder != nullptr) *isFolder = facts.isFolder;
+    return FileAccessState::reachable;
   }
+  if (facts.reach != FileReach::missing)
+    return notThere(facts.reach, FileAccessState::missingFolder);
   // Missing: the folder that should hold it tells which kind. (The file could
   // be looked for, so its folder was searchable.)
   std::string parent = getFolderFromPath(path);
   FileFacts folder = fileFacts().facts(parent.empty() ? "." : parent);
-  switch (folder.reach) {
-    case FileReach::present:
-      return folder.isFolder ? FileAccessState::missingFile : FileAccessState::missingFolder;
-    case FileReach::denied:
-      return FileAccessState::accessDenied;
-    case FileReach::unreachable:
-      return FileAccessState::unreachable;
-    case FileReach::missing:
-      break;
-  }
-  return FileAccessState::missingFolder;
+  if (folder.present())
+    return folder.isFolder ? FileAccessState::missingFile : FileAccessState::missingFolder;
+  return notThere(folder.reach, FileAccessState::missingFolder);
 }
 
 bool fileUtilitiesClass::isFileWritable(const std::string& path) const {
