@@ -210,8 +210,16 @@ void ClientWindow::wireComponentEvents() {
   quillbox.moveNext = [this] { moveTo(current_ + 1); };
   quillbox.moveLast = [this] { moveTo(roster_.size() - 1); };
   quillbox.findClient = [this] { findClient(); };
-  quillbox.changeCompany = [this](int32_t& companyID, int32_t&) { showClient(true, companyID); };
-  quillbox.changeContact = [this](int32_t& contactID, int32_t&) { showClient(false, contactID); };
+  // The search found a document of another client: show that client, then
+  // the document.
+  quillbox.changeCompany = [this](int32_t& companyID, int32_t& documentID) {
+    int32_t document = documentID;
+    if (showClient(true, companyID)) component_->goToDocument(document);
+  };
+  quillbox.changeContact = [this](int32_t& contactID, int32_t& documentID) {
+    int32_t document = documentID;
+    if (showClient(false, contactID)) component_->goToDocument(document);
+  };
   quillbox.openDocMerge = [this](int16_t&, std::string& docPath) {
     statusBar()->showMessage("Merge document: " + QString::fromStdString(docPath), 8000);
   };

@@ -194,10 +194,13 @@ TEST_F(DocumentDialogsTest, ThePropertiesDialogInItsStatesLooksNativeAndCloseSav
 }
 
 TEST_F(DocumentDialogsTest, TheFindDialogSearchesWithRealWidgetsAndGoesToAnotherClient) {
+  // The host's own handler shows the client and the document; the test
+  // notes which client it was.
   int32_t changedTo = -1;
-  quillbox().changeCompany = [&](int32_t& company, int32_t&) {
+  auto host = quillbox().changeCompany;
+  quillbox().changeCompany = [&](int32_t& company, int32_t& document) {
     changedTo = company;
-    window_->showClient(true, company);
+    host(company, document);
   };
   std::string firstResult;
   whenDialogShows([&](QDialog& dialog, Form& form) {
@@ -241,6 +244,10 @@ TEST_F(DocumentDialogsTest, TheFindDialogSearchesWithRealWidgetsAndGoesToAnother
   ASSERT_GE(changedTo, 0);
   EXPECT_EQ(quillbox().companyIDNum(), changedTo);
   EXPECT_NE(changedTo, 2);
+  // The document found is the one selected in the other client's list.
+  ListItem* selected = quillbox().lvDocuments().SelectedItem();
+  ASSERT_NE(selected, nullptr);
+  EXPECT_EQ(selected->Text(), "Notice of Assessment 2024");
   screenshot("after-find-go-to");
 }
 
