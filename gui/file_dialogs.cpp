@@ -1,82 +1,83 @@
 #include "gui/file_dialogs.h"
 
-#include <QApplication>
+#include <QDateTime>
 #include <QDir>
-#include <QFileDialog>
 #include <QFileInfo>
-#include <QTimer>
+#include <QHeaderView>
+#include <QLocale>
+#include <QTreeView>
+#include <algorithm>
 
-#include "services/shell/common_dialog.h"
+#include "gui/user_settings.h"
 
 namespace qb::gui {
 
-FileDialogs::FileDialogs(QWidget* window) : window_(window) {
-  installFileDialogService([this](CommonDialog& dialog) { return show(dialog); });
+namespace {
+
+// The size a dialog first opens at.
+constexpr QSize kFirstSize(900, 540);
+// Room beside a column's text.
+constexpr int kColumnPadding = 24;
+
+// Widths for the columns of the dialog's detail view, wide enough for a
+// size, a file type and a date as the dialog writes them, the name taking
+// the rest. The folder's rows come in later, so the widths are not taken
+// from them.
+void fitColumns(QTreeView& view, int dialogWidth) {
+  const QFontMetrics metrics(view.font());
+  const QString date =
+      QLocale().toString(QDateTime(QDate(2000, 12, 28), QTime(23, 59, 59)), QLocale::ShortFormat);
+  const int widths[] = {metrics.horizontalAdvance("1,023.9 KiB"),
+                        metrics.horizontalAdvance("OpenDocument Spreadsheet"),
+                        metrics.horizontalAdvance(date)};
+  QHeaderView& header = *view.header();
+  int others = 0;
+  for (int column = 1; column <= 3 && column < header.count(); ++column) {
+    const int width = widths[column - 1] + kColumnPadding;
+    header.resizeSection(column, width);
+    others += width;
+  }
+  // The view is about the dialog's width less the places panel.
+  header.resizeSection(0,
+                       std::max(metrics.horizontalAdvance("M") * 24, dialogWidth * 4 / 5 - others));
 }
 
-FileDialogs::~FileDialogs() { installFileDialogService({}); }
+QString key(const QString& purpose, const char* what) { return "dialogs/" + purpose + "/" + what; }
 
-QStringList FileDialogs::qtFilters(const std::string& filter) {
-  const QStringList parts = QString::fromStdString(filter).split('|');
-  QStringList filters;
-  for (int i = 0; i + 1 < parts.size(); i += 2) {
-    QString patterns = parts[i + 1];
-    patterns.replace(';', ' ');
-    if (patterns.trimmed() == "*.*") patterns = "*";
-    QString description = parts[i];
-    description.replace("(*.*)", "(" + patterns + ")");
-    if (!description.contains('(')) description += " (" + patterns + ")";
-    filters << description;
-  }
-  if (filters.isEmpty()) filters << "All Files (*)";
-  return filters;
+// The folder of a chosen path: the path itself when it is a folder.
+QString folderOf(const QString& path) {
+  const QFileInfo info(path);
+  return info.isDir() ? info.absoluteFilePath() : info.absolutePath();
 }
 
-QString FileDialogs::startFolder(const std::string& folder) {
-  QFileInfo place(QString::fromStdString(folder));
-  while (!place.filePath().isEmpty() && !place.isDir()) {
-    const QString parent = place.absolutePath();
-    if (parent == place.absoluteFilePath()) break;
-    place = QFileInfo(parent);
-  }
-  return place.isDir() ? place.absoluteFilePath() : QDir::homePath();
+}  // namespace
+
+QString startFolder(const QString& purpose, const QString& fallbackFolder) {
+  const QString remembered = userSettings()->value(key(purpose, "folder")).toString();
+  if (!remembered.isEmpty() && QFileInfo(remembered).isDir()) return remembered;
+  if (!fallbackFolder.isEmpty() && QFileInfo(fallbackFolder).isDir()) return fallbackFolder;
+  return QDir::homePath();
 }
 
-bool FileDialogs::show(CommonDialog& common) {
-  QWidget* parent = QApplication::activeModalWidget();
-  if (parent == nullptr) parent = window_.data();
-  const QStringList filters = qtFilters(common.Filter());
-  QFileDialog dialog(parent, QString::fromStdString(common.DialogTitle()),
-                     startFolder(common.InitDir()));
-  dialog.setAcceptMode(QFileDialog::AcceptOpen);
-  dialog.setNameFilters(filters);
-  // The filter index counts from 1; 0 takes the first too.
-  const int index = std::max(0, common.FilterIndex() - 1);
-  if (index < filters.size()) dialog.selectNameFilter(filters[index]);
-  const bool several = (common.Flags() & cdlOFNAllowMultiselect) != 0;
-  dialog.setFileMode(several ? QFileDialog::ExistingFiles : QFileDialog::ExistingFile);
-  if (!common.FileName().empty()) dialog.selectFile(QString::fromStdString(common.FileName()));
-  if (shown_) QTimer::singleShot(0, &dialog, [this, &dialog] { shown_(dialog); });
-  if (dialog.exec() != QDialog::Accepted) return false;
+QStringList runFileDialog(QFileDialog& dialog, const QString& purpose,
+                          const QString& fallbackFolder) {
+  auto settings = userSettings();
+  // The dialog's own state holds its view and columns (and a folder, which
+  // the remembered one replaces).
+  const bool restored = dialog.restoreState(settings->value(key(purpose, "state")).toByteArray());
+  if (!dialog.restoreGeometry(settings->value(key(purpose, "geometry")).toByteArray()))
+    dialog.resize(kFirstSize);
+  if (!restored) {
+    for (auto* view : dialog.findChildren<QTreeView*>()) fitColumns(*view, dialog.width());
+  }
+  dialog.setDirectory(startFolder(purpose, fallbackFolder));
 
-  const QStringList chosen = dialog.selectedFiles();
-  if (chosen.isEmpty()) return false;
-  if (chosen.size() == 1) {
-    common.setFileName(QDir::cleanPath(chosen.front()).toStdString());
-    return true;
-  }
-  // Several files: their folder, then each name (relative to the folder when
-  // the picks come from more than one).
-  QString folder = QFileInfo(chosen.front()).absolutePath();
-  for (const QString& file : chosen) {
-    while (!QFileInfo(file).absoluteFilePath().startsWith(folder + "/") && folder != "/")
-      folder = QFileInfo(folder).absolutePath();
-  }
-  std::vector<std::string> names;
-  const QDir base(folder);
-  for (const QString& file : chosen) names.push_back(base.relativeFilePath(file).toStdString());
-  common.setFileName(multipleFileResult(folder.toStdString(), names));
-  return true;
+  const bool chosen = dialog.exec() == QDialog::Accepted;
+  settings->setValue(key(purpose, "state"), dialog.saveState());
+  settings->setValue(key(purpose, "geometry"), dialog.saveGeometry());
+  if (!chosen || dialog.selectedFiles().isEmpty()) return {};
+  settings->setValue(key(purpose, "folder"), folderOf(dialog.selectedFiles().first()));
+  return dialog.selectedFiles();
 }
 
 }  // namespace qb::gui

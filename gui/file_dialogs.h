@@ -1,49 +1,22 @@
 #pragma once
-// FileDialogs: the GUI's file dialog service. While it lives, the common
-// dialog object's ShowOpen runs the desktop's open-file dialog (QFileDialog:
-// the platform's native one where the desktop offers it), over the modal
-// dialog on screen or the window. It starts in the initial folder, or the
-// nearest folder above it that exists; with the multiple-selection flag
-// several files can be picked, and they come back as the folder and the
-// names separated by characters of code 0, one file as its path.
+// File dialogs that remember, for each of their purposes ("database",
+// "documents", ...), the folder the user last chose in and the size and
+// column layout the dialog was left with, so that the next one starts there
+// and looks the same. The first one starts in a folder the caller gives, at
+// a size where the columns show whole names, sizes and dates.
 
-#include <QPointer>
-#include <QString>
+#include <QFileDialog>
 #include <QStringList>
-#include <functional>
-
-class QFileDialog;
-class QWidget;
-
-namespace qb {
-class CommonDialog;
-}
 
 namespace qb::gui {
 
-class FileDialogs {
- public:
-  explicit FileDialogs(QWidget* window);
-  ~FileDialogs();
-  FileDialogs(const FileDialogs&) = delete;
-  FileDialogs& operator=(const FileDialogs&) = delete;
+// Runs the dialog (modal) for a purpose and returns the paths chosen, none
+// when it was cancelled. fallbackFolder: where to start when nothing is
+// remembered for that purpose, or the remembered folder is gone.
+QStringList runFileDialog(QFileDialog& dialog, const QString& purpose,
+                          const QString& fallbackFolder);
 
-  // Called once the dialog is on screen: tests pick files and accept here.
-  using ShownHook = std::function<void(QFileDialog& dialog)>;
-  void setShownHook(ShownHook hook) { shown_ = std::move(hook); }
-
-  // The Qt filters of a filter text: "All Files (*.*)|*.*" gives
-  // "All Files (*)" ("*.*" means every file).
-  static QStringList qtFilters(const std::string& filter);
-  // The folder to start in: the folder itself, or the nearest one above it
-  // that exists, else the home folder.
-  static QString startFolder(const std::string& folder);
-
- private:
-  bool show(CommonDialog& dialog);
-
-  QPointer<QWidget> window_;
-  ShownHook shown_;
-};
+// The folder a dialog for that purpose starts in.
+QString startFolder(const QString& purpose, const QString& fallbackFolder);
 
 }  // namespace qb::gui

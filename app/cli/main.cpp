@@ -22,7 +22,8 @@ const char* kGlobalHelp =
     "  --user N       the signed-in user's id (default 1)\n"
     "  --today DATE   today's date as YYYY-MM-DD for everything that reads it\n"
     "                 (default: the machine's date)\n"
-    "  --help         describe the tool, or the command given\n";
+    "  --help         describe the tool, or the command given\n"
+    "  --version      print the tool's version\n";
 
 void printToolHelp(std::ostream& out) {
   out << "quillbox - the document-link manager and merge engine's command-line tool\n\n"
@@ -100,6 +101,9 @@ int main(int argc, char** argv) {
       const std::string& word = words[i];
       if (word == "--help" || word == "-h") {
         help = true;
+      } else if (word == "--version") {
+        std::cout << "quillbox " << QB_VERSION << "\n";
+        return 0;
       } else if (word.rfind("--", 0) == 0) {
         std::string name = word.substr(2);
         std::string inlineValue;

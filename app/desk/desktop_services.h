@@ -16,7 +16,7 @@ class StandardFormHelper;
 
 namespace qb::gui {
 class DesktopShell;
-class FileDialogs;
+class FileDialogService;
 class FormDialogs;
 }  // namespace qb::gui
 
@@ -28,13 +28,13 @@ class DesktopServices {
   ~DesktopServices();
 
   gui::FormDialogs& formDialogs() { return *formDialogs_; }
-  gui::FileDialogs& fileDialogs() { return *fileDialogs_; }
+  gui::FileDialogService& fileDialogService() { return *fileDialogService_; }
   gui::DesktopShell& shell() { return *shell_; }
   const std::shared_ptr<StandardFormHelper>& formHelper() const { return formHelper_; }
 
  private:
   std::unique_ptr<gui::FormDialogs> formDialogs_;
-  std::unique_ptr<gui::FileDialogs> fileDialogs_;
+  std::unique_ptr<gui::FileDialogService> fileDialogService_;
   std::shared_ptr<gui::DesktopShell> shell_;
   std::shared_ptr<StandardFormHelper> formHelper_;
 };

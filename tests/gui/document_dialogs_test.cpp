@@ -31,7 +31,7 @@
 #include "dialogs/frm_doc_properties.h"
 #include "dialogs/frm_find_document.h"
 #include "gui/desktop_shell.h"
-#include "gui/file_dialogs.h"
+#include "gui/file_dialog_service.h"
 #include "gui/form_dialogs.h"
 #include "services/quillbox/doc_quillbox_document_class.h"
 #include "services/shell/common_dialog.h"
@@ -257,7 +257,7 @@ TEST_F(DocumentDialogsTest, FilesPickedInTheFileDialogAreLinkedAndTheListKeysRun
   const std::string a = folder_.writeFile("files/Data/Incoming/Relevé été.pdf", "%PDF");
   const std::string b = folder_.writeFile("files/Data/Incoming/notes 2024.txt", "x");
   std::string title;
-  window_->desktop().fileDialogs().setShownHook([&](QFileDialog& dialog) {
+  window_->desktop().fileDialogService().setShownHook([&](QFileDialog& dialog) {
     title = dialog.windowTitle().toStdString();
     dialog.setDirectory(QFileInfo(QString::fromStdString(a)).absolutePath());
     dialog.selectFile("\"Relevé été.pdf\" \"notes 2024.txt\"");
@@ -287,11 +287,11 @@ TEST_F(DocumentDialogsTest, FilesPickedInTheFileDialogAreLinkedAndTheListKeysRun
 }
 
 TEST(FileDialogFilters, TheFilterTextBecomesQtFiltersAndAMissingFolderItsNearestParent) {
-  EXPECT_EQ(gui::FileDialogs::qtFilters("All Files (*.*)|*.*"), QStringList{"All Files (*)"});
-  EXPECT_EQ(gui::FileDialogs::qtFilters("Documents|*.doc;*.docx|All Files (*.*)|*.*"),
+  EXPECT_EQ(gui::FileDialogService::qtFilters("All Files (*.*)|*.*"), QStringList{"All Files (*)"});
+  EXPECT_EQ(gui::FileDialogService::qtFilters("Documents|*.doc;*.docx|All Files (*.*)|*.*"),
             (QStringList{"Documents (*.doc *.docx)", "All Files (*)"}));
   TempFolder folder;
-  EXPECT_EQ(gui::FileDialogs::startFolder(folder.file("Data/Clients")).toStdString(),
+  EXPECT_EQ(gui::FileDialogService::nearestFolder(folder.file("Data/Clients")).toStdString(),
             folder.path().string());
 }
 
