@@ -34,6 +34,7 @@ class WidgetOwnerForm;
 
 namespace qb::desk {
 
+class DesktopServices;
 class DialogErrorObject;
 
 class ClientWindow : public QMainWindow {
@@ -61,6 +62,8 @@ class ClientWindow : public QMainWindow {
   gui::UserControlHost* componentHost() const { return host_; }
   gui::QtPlatform& platform() const { return *platform_; }
   DialogErrorObject& errors() const { return *errors_; }
+  // The dialogs, file dialog and shell the component gets from the desktop.
+  DesktopServices& desktop() const { return *desktop_; }
   gui::MessageBoxObject& messages() const { return *messages_; }
 
   // Lays the window out, renders it and writes it to a PNG file. False when
@@ -72,6 +75,7 @@ class ClientWindow : public QMainWindow {
 
  private:
   void buildMenus();
+  void buildDocumentMenu();
   void hostComponent();
   void releaseComponent();
   void wireComponentEvents();
@@ -89,6 +93,7 @@ class ClientWindow : public QMainWindow {
   std::shared_ptr<FixedLocale> locale_;
   std::unique_ptr<gui::WidgetOwnerForm> owner_;
   std::unique_ptr<gui::QtPlatform> platform_;
+  std::unique_ptr<DesktopServices> desktop_;
   std::unique_ptr<nvDocumentQuillbox> component_;
   gui::UserControlHost* host_ = nullptr;
   int32_t listObserver_ = 0;

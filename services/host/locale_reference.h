@@ -4,7 +4,10 @@
 // form that owns dialogs and messages.
 
 #include <cstdint>
+#include <memory>
 #include <string>
+
+#include "services/host/form_helper.h"
 
 namespace qb {
 
@@ -30,6 +33,8 @@ class LocaleReference {
   virtual std::string getApplicationTitle() = 0;
   // May be null when the host has no form (a command-line host).
   virtual OwnerForm* getOwnerForm() = 0;
+  // The helper every dialog form uses; null when the host gives none.
+  virtual FormHelper* getFormHelper() { return nullptr; }
 };
 
 // A locale with fixed answers, as the command-line host and tests set it.
@@ -41,6 +46,7 @@ class FixedLocale : public LocaleReference {
   std::string productLabel = "Orvanta";
   std::string applicationTitle = "Orvanta";
   OwnerForm* ownerForm = nullptr;
+  std::shared_ptr<FormHelper> formHelper;
 
   int32_t getCountryCode() override { return countryCode; }
   int32_t getProvinceCode() override { return provinceCode; }
@@ -48,6 +54,7 @@ class FixedLocale : public LocaleReference {
   std::string getProductLabel() override { return productLabel; }
   std::string getApplicationTitle() override { return applicationTitle; }
   OwnerForm* getOwnerForm() override { return ownerForm; }
+  FormHelper* getFormHelper() override { return formHelper.get(); }
 };
 
 }  // namespace qb
