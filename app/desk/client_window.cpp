@@ -234,8 +234,15 @@ void ClientWindow::wireComponentEvents() {
     int32_t document = documentID;
     if (showClient(false, contactID)) component_->goToDocument(document);
   };
-  quillbox.openDocMerge = [this](int16_t&, std::string& docPath) {
-    statusBar()->showMessage("Merge document: " + QString::fromStdString(docPath), 8000);
+  // A merge document of the list opens in the merge window, for the client
+  // on screen; the component names it by its document type.
+  quillbox.openDocMerge = [this](int16_t& docType, std::string& docPath) {
+    constexpr int16_t kMergeDocumentType = 7;
+    if (docType == kMergeDocumentType) {
+      openMergeDocumentWindow(*this, docPath);
+    } else {
+      statusBar()->showMessage("Merge document: " + QString::fromStdString(docPath), 8000);
+    }
   };
 }
 

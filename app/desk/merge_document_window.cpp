@@ -3,6 +3,7 @@
 #include <QCloseEvent>
 #include <QDesktopServices>
 #include <QDialogButtonBox>
+#include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QFontDatabase>
@@ -20,8 +21,11 @@
 #include <sstream>
 
 #include "app/desk/client_window.h"
+#include "app/desk/desktop_services.h"
 #include "app/desk/merge_field_lists.h"
 #include "app/desk/rtf_reading.h"
+#include "gui/desktop_shell.h"
+#include "gui/file_dialogs.h"
 #include "gui/rich_text_box_widget.h"
 #include "gui/theme_icons.h"
 #include "merge/cls_insert_fields_in_rtb.h"
@@ -135,7 +139,7 @@ void MergeDocumentWindow::buildButtons(QBoxLayout* layout) {
     connect(button, &QPushButton::clicked, this, action);
     return button;
   };
-  add("&Check", "tools-check-spelling", [this] { check(); });
+  add("&Check", "dialog-ok", [this] { check(); });
   add("&Preview", "document-print-preview", [this] { preview(); });
   add("&Merge", "document-save-as", [this] { merge(); });
   open_ = add("&Open Merged Document", "document-open", [this] { openMerged(); });
@@ -247,7 +251,11 @@ std::string MergeDocumentWindow::merge() {
 
 void MergeDocumentWindow::openMerged() {
   if (merged_.empty()) return;
-  QDesktopServices::openUrl(QUrl::fromLocalFile(QString::fromStdString(merged_)));
+  if (openDocument) {
+    openDocument(merged_);
+  } else {
+    QDesktopServices::openUrl(QUrl::fromLocalFile(QString::fromStdString(merged_)));
+  }
 }
 
 bool MergeDocumentWindow::saveTemplate() {
@@ -297,15 +305,21 @@ void openMergeDocumentWindow(ClientWindow& window, const std::string& path) {
   auto* document =
       new MergeDocumentWindow(path, window.roster().at(window.currentClient()), &window);
   document->setAttribute(Qt::WA_DeleteOnClose);
+  document->openDocument = [&window](const std::string& merged) {
+    window.desktop().shell().ShellExecuteA(0, "open", merged, "", "", 1);
+  };
   document->open();
 }
 
 void chooseMergeDocument(ClientWindow& window) {
   if (window.component() == nullptr || window.currentClient() < 0) return;
-  const QString path =
-      QFileDialog::getOpenFileName(&window, "Open Merge Document", QString(),
-                                   "Merge documents (*.omd *.rtf *.txt);;All files (*)");
-  if (!path.isEmpty()) openMergeDocumentWindow(window, path.toStdString());
+  QFileDialog dialog(&window, "Open Merge Document");
+  dialog.setFileMode(QFileDialog::ExistingFile);
+  dialog.setNameFilters({"Merge documents (*.omd *.rtf *.txt)", "All files (*)"});
+  // The folder chosen last for a merge document is where the next choice
+  // starts.
+  const QStringList chosen = gui::runFileDialog(dialog, "merge documents", QDir::homePath());
+  if (!chosen.isEmpty()) openMergeDocumentWindow(window, chosen.front().toStdString());
 }
 
 }  // namespace qb::desk

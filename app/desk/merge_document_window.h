@@ -13,6 +13,7 @@
 // module state), so it is opened while a client database is hosted.
 
 #include <QDialog>
+#include <functional>
 #include <memory>
 #include <string>
 
@@ -74,6 +75,10 @@ class MergeDocumentWindow : public QDialog {
   gui::RichTextBoxWidget& editorWidget() const { return *templateWidget_; }
   // Where a merge for this client is saved.
   std::string mergedPath() const;
+
+  // Opens a document with the desktop's default application (the host's
+  // shell; by default the desktop services of Qt).
+  std::function<void(const std::string& path)> openDocument;
 
  protected:
   void closeEvent(QCloseEvent* event) override;

@@ -6,6 +6,7 @@
 
 #include <QAction>
 #include <QDir>
+#include <QFileDialog>
 #include <QMenuBar>
 #include <QTextDocument>
 #include <QToolButton>
@@ -13,8 +14,11 @@
 #include <fstream>
 #include <sstream>
 
+#include "app/desk/desktop_services.h"
 #include "app/desk/merge_field_lists.h"
 #include "app/desk/rtf_reading.h"
+#include "gui/desktop_shell.h"
+#include "gui/file_dialog_service.h"
 #include "gui/list_box_widget.h"
 #include "gui/rich_text_box_widget.h"
 #include "services/controls/rich_text_box.h"
@@ -51,6 +55,12 @@ const char* const kLetter =
 
 class MergeDocument : public DeskTest {
  protected:
+  void SetUp() override {
+    DeskTest::SetUp();
+    window_->desktop().shell().setUnattended(&launched_);
+  }
+  std::ostringstream launched_;
+
   desk::MergeDocumentWindow& open(const std::string& name, const std::string& text) {
     const std::string path = folder_.file(name);
     write(path, text);
@@ -100,6 +110,39 @@ TEST_F(MergeDocument, AnRtfLetterIsCheckedPreviewedAndMergedForTheClientOnScreen
   EXPECT_TRUE(document.message().contains("saved as")) << document.message().toStdString();
   EXPECT_EQ(document.merge(), folder_.file("Engagement - Maple Leaf Bakery Ltd. (2).rtf"));
   EXPECT_EQ(read(folder_.file("Engagement.omd")), kLetter);  // the template as it was
+}
+
+TEST_F(MergeDocument, AMergeDocumentOfTheClientsListOpensInTheMergeWindow) {
+  // The user adds a merge document to the client's list, then opens it.
+  const std::string path = folder_.file("Engagement Letter.omd");
+  write(path, kLetter);
+  window_->desktop().fileDialogService().setShownHook([&](QFileDialog& dialog) {
+    dialog.setDirectory(QString::fromStdString(folder_.path().string()));
+    dialog.selectFile("Engagement Letter.omd");
+    QMetaObject::invokeMethod(&dialog, "accept", Qt::DirectConnection);
+  });
+  quillbox().cmdDocManager(0).click();
+  settle();
+  ListView& list = quillbox().lvDocuments();
+  ListItem* added = nullptr;
+  for (int32_t i = 1; i <= list.ListItems().Count(); ++i) {
+    ListItem& item = list.ListItems().item(i);
+    if (quillbox().getDocPathFromTag(item.Tag()) == path) added = &item;
+  }
+  ASSERT_NE(added, nullptr);
+  list.setSelectedItem(nullptr);
+  list.setSelectedItem(added);
+  quillbox().openSelectedDocumentsFiles();
+  settle();
+  auto* document = window_->findChild<desk::MergeDocumentWindow*>();
+  ASSERT_NE(document, nullptr);
+  EXPECT_TRUE(document->windowTitle().startsWith("Engagement Letter.omd"));
+  EXPECT_EQ(document->templateText(), kLetter);
+  // Merged and opened in the desktop's default application.
+  const std::string merged = document->merge();
+  document->openMerged();
+  EXPECT_NE(launched_.str().find("open " + merged), std::string::npos) << launched_.str();
+  shoot(*document, "merge-document-from-list.png", folder_);
 }
 
 TEST_F(MergeDocument, FieldsGoInAsRtfSourceAndTheCheckSaysWhatIsWrong) {
