@@ -120,7 +120,7 @@ class Differential : public MergeTest {
   int compared = 0;
 };
 
-TEST_F(Differential, TheMergeGivesWhatThePassesAsWrittenGive) {
+TEST_F(Differential, TheMergeGivesWhatTheLiteralPassesGive) {
   std::mt19937 random(20261123);
   for (int round = 0; round < 24; ++round) {
     const std::string values = drawValues(random);
