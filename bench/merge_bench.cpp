@@ -120,7 +120,7 @@ void BM_ParseLetterInTestMode(benchmark::State& state) {
 }
 BENCHMARK(BM_ParseLetterInTestMode)->Unit(benchmark::kMicrosecond);
 
-void BM_ParseLetterInTestModeAsWritten(benchmark::State& state) {
+void BM_ParseLetterInTestModeLiterally(benchmark::State& state) {
   SampleFirm firm;
   const std::string letter = rtfLetter();
   qb::test::LiteralMerge fields;
@@ -129,10 +129,10 @@ void BM_ParseLetterInTestModeAsWritten(benchmark::State& state) {
   fields.initializeDataRecordsetsForSingleDocMerge();
   for (auto _ : state) {
     fields.setTemplateText(letter);
-    benchmark::DoNotOptimize(fields.parseAsWritten());
+    benchmark::DoNotOptimize(fields.parseLiterally());
   }
 }
-BENCHMARK(BM_ParseLetterInTestModeAsWritten)->Unit(benchmark::kMicrosecond);
+BENCHMARK(BM_ParseLetterInTestModeLiterally)->Unit(benchmark::kMicrosecond);
 
 // One document of the sample firm merged with its data, the recordsets
 // opened and the field table built for it each time.

@@ -110,7 +110,7 @@ class Differential : public MergeTest {
       const std::string text = templates.next();
       fields.setTemplateText(text);
       const std::string fast = fields.parseRTBComment();
-      const std::string literal = fields.parseAsWritten();
+      const std::string literal = fields.parseLiterally();
       ASSERT_EQ(visible(fast), visible(literal))
           << "template: " << visible(text) << "\nsetting: " << setting;
       ++compared;

@@ -40,7 +40,7 @@ inline void removeUnfoundLiterally(const FieldListClass& table, std::string& tex
 class LiteralMerge : public clsInsertFieldsInRTB {
  public:
   // parseRTBComment, literally.
-  std::string parseAsWritten() {
+  std::string parseLiterally() {
     std::string text = prepareTemplate();
     if (!verifyFieldListIsPopulated()) return text;
     sweepLiterally(text, "«", "»");

@@ -95,7 +95,7 @@ TEST_F(MergePasses, ValuesThatHoldMarkers) {
                            "\\'a\\'abCorporate Name\\'bbContact First Name\\'bb",
                            "«Contact «Corporate Name»First Name»", "To «Company Name»"}) {
     fields.setTemplateText(text);
-    EXPECT_EQ(fields.parseRTBComment(), fields.parseAsWritten()) << text;
+    EXPECT_EQ(fields.parseRTBComment(), fields.parseLiterally()) << text;
   }
 }
 
@@ -186,10 +186,10 @@ TEST_F(MergePasses, LargeTemplatesAndTemplatesOfBrackets) {
   fields.setTemplateText(brackets);
   EXPECT_LT(fields.parseRTBComment().size(), brackets.size());
   fields.setTemplateText(brackets.substr(0, 2000));
-  EXPECT_EQ(fields.parseRTBComment(), fields.parseAsWritten());
+  EXPECT_EQ(fields.parseRTBComment(), fields.parseLiterally());
 }
 
-TEST_F(MergePasses, AReplacementAsWritten) {
+TEST_F(MergePasses, AReplacementOfAMarker) {
   std::string text = "a«X» «x»";
   fields.replaceText(text, "«X»", "1");
   EXPECT_EQ(text, "a 1  1");  // the first occurrence follows a letter
