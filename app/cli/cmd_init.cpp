@@ -5,7 +5,7 @@
 #include <stdexcept>
 
 #include "app/cli/command.h"
-#include "services/store/sample_firm.h"
+#include "sample/sample_firm.h"
 
 namespace qb::cli {
 namespace {

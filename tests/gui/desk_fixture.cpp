@@ -5,7 +5,7 @@
 #include <cstdlib>
 
 #include "gui/theme_icons.h"
-#include "services/store/sample_firm.h"
+#include "sample/sample_firm.h"
 
 // The desktop's font library keeps its caches for the life of the process;
 // the leak checker of the sanitizer build is told so.

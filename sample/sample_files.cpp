@@ -1,4 +1,4 @@
-#include "services/store/sample_files.h"
+#include "sample/sample_files.h"
 
 #include <array>
 #include <cctype>

@@ -1,13 +1,13 @@
-#include "services/store/sample_firm.h"
+#include "sample/sample_firm.h"
 
 #include <sqlite3.h>
 
 #include <filesystem>
 #include <stdexcept>
 
-#include "services/store/sample_clients.h"
-#include "services/store/sample_documents.h"
-#include "services/store/sample_firm_parts.h"
+#include "sample/sample_clients.h"
+#include "sample/sample_documents.h"
+#include "sample/sample_firm_parts.h"
 #include "services/store/schema.h"
 
 namespace qb {

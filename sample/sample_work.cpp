@@ -1,8 +1,8 @@
 // The sample clients' work records: appointments, task schedule rows with
 // their calendar tasks, time entries, personal tax rows and projects.
 
-#include "services/store/sample_clients.h"
-#include "services/store/sample_firm_parts.h"
+#include "sample/sample_clients.h"
+#include "sample/sample_firm_parts.h"
 
 namespace qb::sample {
 namespace {

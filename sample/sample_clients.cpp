@@ -1,8 +1,8 @@
-#include "services/store/sample_clients.h"
+#include "sample/sample_clients.h"
 
 #include <stdexcept>
 
-#include "services/store/sample_firm_parts.h"
+#include "sample/sample_firm_parts.h"
 
 namespace qb::sample {
 namespace {

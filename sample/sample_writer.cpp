@@ -1,4 +1,4 @@
-#include "services/store/sample_writer.h"
+#include "sample/sample_writer.h"
 
 #include <sqlite3.h>
 

@@ -6,7 +6,7 @@
 #include <cstdint>
 #include <string>
 
-#include "services/store/sample_writer.h"
+#include "sample/sample_writer.h"
 
 namespace qb::sample {
 

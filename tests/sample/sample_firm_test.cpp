@@ -1,4 +1,4 @@
-#include "services/store/sample_firm.h"
+#include "sample/sample_firm.h"
 
 #include <gtest/gtest.h>
 #include <sqlite3.h>

@@ -1,4 +1,4 @@
-#include "services/store/sample_firm_parts.h"
+#include "sample/sample_firm_parts.h"
 
 #include <cstdio>
 #include <vector>

@@ -8,9 +8,9 @@
 #include <string>
 #include <vector>
 
-#include "services/store/sample_documents.h"
-#include "services/store/sample_firm.h"
-#include "services/store/sample_writer.h"
+#include "sample/sample_documents.h"
+#include "sample/sample_firm.h"
+#include "sample/sample_writer.h"
 
 namespace qb::sample {
 

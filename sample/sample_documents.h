@@ -8,8 +8,8 @@
 #include <string>
 #include <vector>
 
-#include "services/store/sample_firm.h"
-#include "services/store/sample_writer.h"
+#include "sample/sample_firm.h"
+#include "sample/sample_writer.h"
 
 namespace qb::sample {
 

@@ -4,7 +4,7 @@
 #include <filesystem>
 #include <map>
 
-#include "services/store/sample_clients.h"
+#include "sample/sample_clients.h"
 
 namespace qb::sample {
 namespace {

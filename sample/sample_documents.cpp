@@ -1,7 +1,7 @@
-#include "services/store/sample_documents.h"
+#include "sample/sample_documents.h"
 
-#include "services/store/sample_files.h"
-#include "services/store/sample_firm_parts.h"
+#include "sample/sample_files.h"
+#include "sample/sample_firm_parts.h"
 
 namespace qb::sample {
 namespace {

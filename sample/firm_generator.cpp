@@ -6,9 +6,9 @@
 #include <random>
 #include <stdexcept>
 
-#include "services/store/sample_documents.h"
-#include "services/store/sample_firm.h"
-#include "services/store/sample_firm_parts.h"
+#include "sample/sample_documents.h"
+#include "sample/sample_firm.h"
+#include "sample/sample_firm_parts.h"
 
 namespace qb {
 namespace {
