@@ -22,9 +22,12 @@ struct FirmSummary {
   std::string filesFolder;  // where the files are, as an absolute path
 };
 
+class DatabaseReference;
+
 // Creates a database file holding the whole schema and no rows, with the
-// folders on the way. Throws std::runtime_error when the file exists already,
-// unless overwrite is true, which deletes it first (with its journal files).
+// folders on the way, as makeDatabase does (new_database.h). Throws
+// std::runtime_error when the file exists already, unless overwrite is true,
+// which replaces it when no other program holds it.
 void createDatabase(const std::string& path, bool overwrite = false);
 
 // Fills a database made by createDatabase with the sample firm and writes the
@@ -43,6 +46,9 @@ FirmSummary generateFirm(const std::string& path, const std::string& filesFolder
                          int32_t clientCount);
 
 // The number of rows in each table of the database, sorted by table name.
+// Fails as the store does (a RuntimeError that says what is wrong), also for
+// a file that is no client database.
+std::vector<std::pair<std::string, int64_t>> tableRowCounts(DatabaseReference& store);
 std::vector<std::pair<std::string, int64_t>> tableRowCounts(const std::string& path);
 
 // The files folder that goes with a database by default: "<stem>-files"

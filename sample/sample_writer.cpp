@@ -4,16 +4,36 @@
 
 #include <stdexcept>
 
+#include "services/store/sqlite_failures.h"
+
 namespace qb::sample {
 
+namespace {
+
+constexpr int kBusyTimeoutMs = 5000;
+
+// The store's text for a failure: what happened (a full disk, a locked file)
+// and what to do, then SQLite's own words.
+[[noreturn]] void writeFailed(sqlite3* db, int rc, const std::string& context) {
+  const char* name = db != nullptr ? sqlite3_db_filename(db, "main") : nullptr;
+  throw std::runtime_error(sqlite::failureText(
+      name != nullptr ? name : "", rc, db != nullptr ? sqlite3_system_errno(db) : 0, kBusyTimeoutMs,
+      context, db != nullptr ? sqlite3_errmsg(db) : sqlite3_errstr(rc)));
+}
+
+}  // namespace
+
 SampleWriter::SampleWriter(const std::string& path) {
-  if (sqlite3_open_v2(path.c_str(), &db_, SQLITE_OPEN_READWRITE, nullptr) != SQLITE_OK) {
-    std::string message = db_ != nullptr ? sqlite3_errmsg(db_) : "out of memory";
+  int rc = sqlite3_open_v2(path.c_str(), &db_, SQLITE_OPEN_READWRITE, nullptr);
+  if (rc != SQLITE_OK) {
+    std::string message = db_ != nullptr ? sqlite3_errmsg(db_) : sqlite3_errstr(rc);
     sqlite3_close(db_);
     db_ = nullptr;
-    throw std::runtime_error("can't open " + path + ": " + message);
+    throw std::runtime_error(
+        sqlite::failureText(path, rc, 0, kBusyTimeoutMs, "Can't open the database", message));
   }
-  sqlite3_busy_timeout(db_, 5000);
+  sqlite3_extended_result_codes(db_, 1);
+  sqlite3_busy_timeout(db_, kBusyTimeoutMs);
 }
 
 SampleWriter::~SampleWriter() {
@@ -23,12 +43,8 @@ SampleWriter::~SampleWriter() {
 }
 
 void SampleWriter::execute(const char* sql) {
-  char* error = nullptr;
-  if (sqlite3_exec(db_, sql, nullptr, nullptr, &error) != SQLITE_OK) {
-    std::string message = error != nullptr ? error : "unknown error";
-    sqlite3_free(error);
-    throw std::runtime_error(message);
-  }
+  int rc = sqlite3_exec(db_, sql, nullptr, nullptr, nullptr);
+  if (rc != SQLITE_OK) writeFailed(db_, rc, std::string("Can't run ") + sql);
 }
 
 sqlite3_stmt* SampleWriter::statement(const std::string& table, const Field* begin,
@@ -47,9 +63,8 @@ sqlite3_stmt* SampleWriter::statement(const std::string& table, const Field* beg
   auto found = statements_.find(sql);
   if (found != statements_.end()) return found->second;
   sqlite3_stmt* stmt = nullptr;
-  if (sqlite3_prepare_v2(db_, sql.c_str(), -1, &stmt, nullptr) != SQLITE_OK) {
-    throw std::runtime_error(std::string(sqlite3_errmsg(db_)) + " in " + sql);
-  }
+  int rc = sqlite3_prepare_v2(db_, sql.c_str(), -1, &stmt, nullptr);
+  if (rc != SQLITE_OK) writeFailed(db_, rc, "Can't prepare " + sql);
   statements_.emplace(sql, stmt);
   return stmt;
 }
@@ -84,9 +99,7 @@ void SampleWriter::insertRange(const std::string& table, const Field* begin, con
   int rc = sqlite3_step(stmt);
   sqlite3_reset(stmt);
   sqlite3_clear_bindings(stmt);
-  if (rc != SQLITE_DONE) {
-    throw std::runtime_error(std::string(sqlite3_errmsg(db_)) + " inserting into " + table);
-  }
+  if (rc != SQLITE_DONE) writeFailed(db_, rc, "Can't insert into " + table);
 }
 
 void SampleWriter::commit() {

@@ -3,20 +3,28 @@
 #include <filesystem>
 #include <stdexcept>
 
+#include "app/cli/id_options.h"
 #include "services/host/module_state.h"
 
 namespace qb::cli {
 
 Session::Session(Context& context)
-    : store_(std::make_shared<SqliteDatabase>()),
+    : context_(context),
+      store_(std::make_shared<SqliteDatabase>()),
       errors_(std::make_shared<ConsoleErrorObject>(&context.err)),
       locale_(std::make_shared<FixedLocale>()) {
   std::string path = context.args.required("db");
-  if (!std::filesystem::exists(path)) {
-    throw std::runtime_error("no database at '" + path + "' (create one with 'quillbox init --db " +
-                             path + " --sample')");
+  std::error_code error;
+  if (!std::filesystem::exists(path, error) && !error) {
+    throw std::runtime_error("There is no database at \"" + path +
+                             "\". Check the path, or create one with 'quillbox init --db " + path +
+                             " --sample'.");
   }
-  store_->open(path);
+  bool writes = context.command != nullptr && context.command->writes;
+  SqliteDatabase::Options options;
+  options.readOnly = !writes;
+  store_->open(path, options);
+  if (writes) checkIdsNameRows(*context.command, context.args, *store_);
   locale_->countryCode = context.country;
   locale_->provinceCode = context.province;
   locale_->userID = context.user;
@@ -26,6 +34,9 @@ Session::Session(Context& context)
   moduleState().localeReference = locale_;
 }
 
-Session::~Session() { resetModuleState(); }
+Session::~Session() {
+  if (errors_->failureCount() > 0) context_.failureRecorded = true;
+  resetModuleState();
+}
 
 }  // namespace qb::cli

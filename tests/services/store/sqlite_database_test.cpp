@@ -15,6 +15,7 @@
 #include "services/errors/runtime_error.h"
 #include "services/runtime/conversions.h"
 #include "services/runtime/dates.h"
+#include "services/store/schema.h"
 #include "services/store/sqlite_sql_text.h"
 #include "tests/support/temp_folder.h"
 
@@ -37,7 +38,14 @@ class StoreTest : public ::testing::Test {
         "NULL),"
         " (3, 'Côté & Fils', 1, 0, NULL);"
         "INSERT INTO ClientData VALUES (10, 1, 1, 'first'), (20, 2, 0, NULL), (30, 3, 1, "
-        "'third');");
+        "'third');" +
+        markSql());
+  }
+
+  // The statements that mark a file as a client database.
+  static std::string markSql() {
+    return "PRAGMA application_id=" + std::to_string(kClientDatabaseApplicationId) +
+           "; PRAGMA user_version=" + std::to_string(kClientDatabaseSchemaVersion) + ";";
   }
 
   // A value read straight from the file, bypassing the store.
@@ -202,12 +210,15 @@ TEST_F(StoreTest, FailuresAreRuntimeErrorsNeverCrashes) {
   EXPECT_EQ(errorOf([&] { missing.getFieldValue(1, "A"); }), err::kBadHandle);
   EXPECT_FALSE(missing.isRecordsetOpen(1));
   EXPECT_EQ(messageOf([&] { missing.open(folder.file("absent.db")); }),
-            "The database file \"" + folder.file("absent.db") + "\" does not exist.");
+            "There is no database file at \"" + folder.file("absent.db") +
+                "\". Check the path; the file may have been moved or deleted.");
   EXPECT_FALSE(std::filesystem::exists(folder.file("absent.db")));
   EXPECT_FALSE(missing.isConnected());
   folder.writeFile("junk.db", std::string(4096, 'j'));
   EXPECT_EQ(messageOf([&] { missing.open(folder.file("junk.db")); }),
-            "The file \"" + folder.file("junk.db") + "\" is not a database.");
+            "The database \"" + folder.file("junk.db") +
+                "\" is not a client database: it is not a SQLite database file. Choose the firm's "
+                "client database file.\nCan't read the database: file is not a database");
   EXPECT_NE(messageOf([&] { store.openRecordset("SELEKT nonsense;", 1, 1); }).find("syntax error"),
             std::string::npos);
 
@@ -270,7 +281,9 @@ TEST_F(StoreTest, ABusyDatabaseIsReportedAndTwoProcessesLoseNoWrite) {
     ADD_FAILURE() << "the write went through a held lock";
   } catch (const RuntimeError& error) {
     EXPECT_EQ(error.number(), err::kStoreError);
-    EXPECT_NE(error.description().find("locked by another user or process"), std::string::npos);
+    EXPECT_NE(error.description().find(
+                  "is locked by another user or program (waited 50 ms). Try again in a moment."),
+              std::string::npos);
   }
   EXPECT_EQ(impatient.getFieldValue(rs, "CompanyName"), Variant("Acme"));
   sqlite3_exec(holder, "ROLLBACK", nullptr, nullptr, nullptr);
