@@ -156,6 +156,7 @@ std::string saveContactBusinessRTF(int32_t& contactID, int32_t& employeeID, int3
   RecordsetHandle customFields = 0;
   RecordsetHandle contactNotes = 0;
   Summary summary(db.get());
+  FailureWatch composing;
 
   proc.step([&] {
     if (!render::connected(proc, db)) proc.leave();
@@ -304,8 +305,13 @@ std::string saveContactBusinessRTF(int32_t& contactID, int32_t& employeeID, int3
     result = summary.text;
   });
 
-  // Store it beside the person. A new notes row is given no ContactNum.
+  // Store it beside the person. A new notes row is given no ContactNum. A
+  // summary that a failure (reported already) left incomplete is not stored
+  // over the one there, nor copied.
+  bool complete = false;
+  proc.step([&] { complete = !composing.sawFailure(); });
   proc.step([&] {
+    if (!complete) return;
     if (isEmployee) {
       db->updateFieldValue(person, "BusinessNotes", result);
     } else if (db->moveFirstRecord(contactNotes)) {
@@ -317,7 +323,7 @@ std::string saveContactBusinessRTF(int32_t& contactID, int32_t& employeeID, int3
     }
   });
   proc.step([&] {
-    if (!isEmployee && !skipOtherCompanies) {
+    if (complete && !isEmployee && !skipOtherCompanies) {
       saveContactBusinessRTFForAllCompanies(contactID, companyID, result);
     }
   });

@@ -1,6 +1,7 @@
 #include "sample/new_database.h"
 
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <sys/statvfs.h>
 #include <unistd.h>
 
@@ -46,6 +47,11 @@ class TemporaryFile {
                                std::strerror(errno) +
                                "). Check that the folder exists and that you may write in it.");
     }
+    // The database gets the permissions any new file gets here, not the
+    // owner-only ones of a temporary file.
+    mode_t mask = umask(0);
+    umask(mask);
+    fchmod(fd, 0666 & ~mask);
     close(fd);
     path_ = pattern;
   }

@@ -15,10 +15,7 @@ constexpr int kBusyTimeoutMs = 5000;
 // The store's text for a failure: what happened (a full disk, a locked file)
 // and what to do, then SQLite's own words.
 [[noreturn]] void writeFailed(sqlite3* db, int rc, const std::string& context) {
-  const char* name = db != nullptr ? sqlite3_db_filename(db, "main") : nullptr;
-  throw std::runtime_error(sqlite::failureText(
-      name != nullptr ? name : "", rc, db != nullptr ? sqlite3_system_errno(db) : 0, kBusyTimeoutMs,
-      context, db != nullptr ? sqlite3_errmsg(db) : sqlite3_errstr(rc)));
+  throw std::runtime_error(sqlite::failureText(sqlite::failureOf(db, rc, kBusyTimeoutMs, context)));
 }
 
 }  // namespace
@@ -26,11 +23,11 @@ constexpr int kBusyTimeoutMs = 5000;
 SampleWriter::SampleWriter(const std::string& path) {
   int rc = sqlite3_open_v2(path.c_str(), &db_, SQLITE_OPEN_READWRITE, nullptr);
   if (rc != SQLITE_OK) {
-    std::string message = db_ != nullptr ? sqlite3_errmsg(db_) : sqlite3_errstr(rc);
+    sqlite::Failure failure = sqlite::failureOf(db_, rc, kBusyTimeoutMs, "Can't open the database");
+    failure.path = path;
     sqlite3_close(db_);
     db_ = nullptr;
-    throw std::runtime_error(
-        sqlite::failureText(path, rc, 0, kBusyTimeoutMs, "Can't open the database", message));
+    throw std::runtime_error(sqlite::failureText(failure));
   }
   sqlite3_extended_result_codes(db_, 1);
   sqlite3_busy_timeout(db_, kBusyTimeoutMs);

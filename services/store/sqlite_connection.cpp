@@ -26,12 +26,11 @@ void Connection::executeScript(const std::string& sql) {
   char* message = nullptr;
   int rc = sqlite3_exec(db_, sql.c_str(), nullptr, nullptr, &message);
   if (rc == SQLITE_OK) return;
-  std::string text = message != nullptr ? message : sqlite3_errstr(rc);
+  sqlite::Failure failure = failureOf(db_, rc, busyTimeoutMs_, "Can't run the script");
+  if (message != nullptr) failure.sqliteMessage = message;
   sqlite3_free(message);
-  int systemError = sqlite3_system_errno(db_);
   if (!sqlite3_get_autocommit(db_)) sqlite3_exec(db_, "ROLLBACK;", nullptr, nullptr, nullptr);
-  throw RuntimeError(err::kStoreError, failureText(path_, rc, systemError, busyTimeoutMs_,
-                                                   "Can't run the script", text));
+  throw RuntimeError(err::kStoreError, failureText(failure));
 }
 
 std::shared_ptr<QueryShape> Connection::shapeOf(const std::string& textWithoutKeys) {
@@ -51,9 +50,14 @@ sqlite3_stmt* Connection::statement(const std::string& sql) {
 
 void Connection::beginWrite() {
   if (readOnly_) {
-    throw RuntimeError(err::kStoreError, "The database \"" + path_ +
-                                             "\" is open for reading only; the change was not "
-                                             "saved.");
+    throw RuntimeError(
+        err::kStoreError,
+        mayNotWrite_
+            ? "The database \"" + path_ +
+                  "\" may not be written by you (the file or its folder is read-only); "
+                  "the change was not saved. Ask for write access to it, or copy it "
+                  "where you may write."
+            : "The database \"" + path_ + "\" is open for reading only; the change was not saved.");
   }
   runToEnd(db_, statement("BEGIN IMMEDIATE;"), busyTimeoutMs_, "Can't begin the write");
 }

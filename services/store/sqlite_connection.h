@@ -85,6 +85,7 @@ class Connection {
   std::string journalMode_;
   int busyTimeoutMs_ = 5000;
   bool readOnly_ = false;
+  bool mayNotWrite_ = false;  // read-only because the user may not write the file
   LruCache<QueryShape> shapes_{256};
   LruCache<Statement> statements_{128};
   NameMap<int> tableIds_;  // by name in any case

@@ -81,7 +81,8 @@ Connection::Connection(const std::string& path, const SqliteDatabase::Options& o
   }
   // A file the user may not write opens for reading, so that reads still work
   // and every write fails with a clear message.
-  readOnly_ = options.readOnly || (exists && access(path.c_str(), W_OK) != 0);
+  mayNotWrite_ = exists && access(path.c_str(), W_OK) != 0;
+  readOnly_ = options.readOnly || mayNotWrite_;
   bool asItStands = readOnly_ && exists && readableOnlyAsItStands(path);
   int flags = SQLITE_OPEN_NOMUTEX | (asItStands ? SQLITE_OPEN_URI : 0) |
               (readOnly_ ? SQLITE_OPEN_READONLY

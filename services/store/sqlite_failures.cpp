@@ -41,8 +41,12 @@ bool isNetworkFileSystem(const std::string& path) {
   }
 }
 
-std::string failureText(const std::string& path, int rc, int systemError, int busyTimeoutMs,
-                        const std::string& context, const std::string& sqliteMessage) {
+std::string failureText(const Failure& failure) {
+  const std::string& path = failure.path;
+  const int rc = failure.rc;
+  const int systemError = failure.systemError;
+  const std::string& sqliteMessage = failure.sqliteMessage;
+  const std::string& context = failure.context;
   const std::string database = path.empty() ? "The database" : "The database \"" + path + "\"";
   const std::string detail = "\n" + context + ": " + sqliteMessage;
   switch (rc & 0xff) {
@@ -50,7 +54,7 @@ std::string failureText(const std::string& path, int rc, int systemError, int bu
     case SQLITE_LOCKED:
       // Who holds the lock is not knowable from here.
       return database + " is locked by another user or program (waited " +
-             std::to_string(busyTimeoutMs) + " ms). Try again in a moment.";
+             std::to_string(failure.busyTimeoutMs) + " ms). Try again in a moment.";
     case SQLITE_FULL:
       return "The disk is full: " + (path.empty() ? "the database" : "\"" + path + "\"") +
              " can't grow, and the change was not saved. Free some space on the disk and try "
@@ -58,7 +62,7 @@ std::string failureText(const std::string& path, int rc, int systemError, int bu
              detail;
     case SQLITE_IOERR:
       if (rc == SQLITE_IOERR_NOMEM) break;
-      if (!path.empty() && isNetworkFileSystem(path)) {
+      if (failure.onNetworkShare) {
         return database +
                " could not be read or written: the network share it lies on does not answer. "
                "Check the connection to the server and try again." +
@@ -124,13 +128,22 @@ std::string failureText(const std::string& path, int rc, int systemError, int bu
   return context + ": " + sqliteMessage;
 }
 
-void fail(sqlite3* db, int rc, int busyTimeoutMs, const std::string& context) {
+Failure failureOf(sqlite3* db, int rc, int busyTimeoutMs, const std::string& context) {
+  Failure failure;
   const char* name = db != nullptr ? sqlite3_db_filename(db, "main") : nullptr;
-  std::string path = name != nullptr ? name : "";
-  std::string message = db != nullptr ? sqlite3_errmsg(db) : sqlite3_errstr(rc);
-  int systemError = db != nullptr ? sqlite3_system_errno(db) : 0;
-  throw RuntimeError(err::kStoreError,
-                     failureText(path, rc, systemError, busyTimeoutMs, context, message));
+  failure.path = name != nullptr ? name : "";
+  failure.rc = rc;
+  failure.systemError = db != nullptr ? sqlite3_system_errno(db) : 0;
+  failure.onNetworkShare =
+      (rc & 0xff) == SQLITE_IOERR && !failure.path.empty() && isNetworkFileSystem(failure.path);
+  failure.busyTimeoutMs = busyTimeoutMs;
+  failure.context = context;
+  failure.sqliteMessage = db != nullptr ? sqlite3_errmsg(db) : sqlite3_errstr(rc);
+  return failure;
+}
+
+void fail(sqlite3* db, int rc, int busyTimeoutMs, const std::string& context) {
+  throw RuntimeError(err::kStoreError, failureText(failureOf(db, rc, busyTimeoutMs, context)));
 }
 
 }  // namespace qb::sqlite

@@ -13,13 +13,25 @@ namespace qb::sqlite {
 // are a server's: NFS, SMB, CIFS, SMB2 and FUSE (sshfs and its kind).
 bool isNetworkFileSystem(const std::string& path);
 
-// The text for a SQLite result code on the database file at path ("" when
-// not known): a locked database, a full disk, a read or write error (a
-// network share that stopped answering), a damaged file, a file moved away
-// while open, a file that may not be read or written. Any other failure gives
-// context, ": " and SQLite's message. systemError is the errno behind it
-// (0 when none).
-std::string failureText(const std::string& path, int rc, int systemError, int busyTimeoutMs,
-                        const std::string& context, const std::string& sqliteMessage);
+// What went wrong, as SQLite and the system tell it.
+struct Failure {
+  std::string path;             // the database file; "" when not known
+  int rc = 0;                   // SQLite's (extended) result code
+  int systemError = 0;          // the errno behind it; 0 when none
+  bool onNetworkShare = false;  // the file lies on a network file system
+  int busyTimeoutMs = 0;        // how long a busy database was waited on
+  std::string context;          // what the store was doing ("Can't run the query")
+  std::string sqliteMessage;    // SQLite's own words
+};
+
+// The text for a failure: a locked database, a full disk, a read or write
+// error (on a network share: the share stopped answering), a damaged file, a
+// file moved away while open, a file that may not be read or written, a
+// table missing. Any other failure gives the context, ": " and SQLite's
+// message.
+std::string failureText(const Failure& failure);
+
+// The failure of the last call on db that returned rc.
+Failure failureOf(sqlite3* db, int rc, int busyTimeoutMs, const std::string& context);
 
 }  // namespace qb::sqlite
