@@ -1,5 +1,7 @@
 #include "services/store/sqlite_connection.h"
 
+#include <sys/stat.h>
+
 #include "services/errors/runtime_error.h"
 #include "services/store/sqlite_failures.h"
 #include "services/store/sqlite_query_shape.h"
@@ -58,6 +60,14 @@ void Connection::beginWrite() {
                   "the change was not saved. Ask for write access to it, or copy it "
                   "where you may write."
             : "The database \"" + path_ + "\" is open for reading only; the change was not saved.");
+  }
+  // A file moved away keeps working through its open handle while its
+  // write-ahead log stays under the old name: a write now would be found by
+  // nobody who opens the file where it is.
+  struct stat now {};
+  if (fileId_.known && (stat(path_.c_str(), &now) != 0 || now.st_dev != fileId_.device ||
+                        now.st_ino != fileId_.inode)) {
+    throw RuntimeError(err::kStoreError, movedWhileOpen(path_));
   }
   runToEnd(db_, statement("BEGIN IMMEDIATE;"), busyTimeoutMs_, "Can't begin the write");
 }

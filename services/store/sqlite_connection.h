@@ -86,6 +86,11 @@ class Connection {
   int busyTimeoutMs_ = 5000;
   bool readOnly_ = false;
   bool mayNotWrite_ = false;  // read-only because the user may not write the file
+  struct FileId {
+    bool known = false;
+    uint64_t device = 0;
+    uint64_t inode = 0;
+  } fileId_;  // the file opened, to tell when its path names another
   LruCache<QueryShape> shapes_{256};
   LruCache<Statement> statements_{128};
   NameMap<int> tableIds_;  // by name in any case

@@ -97,6 +97,10 @@ Connection::Connection(const std::string& path, const SqliteDatabase::Options& o
     rc = sqlite3_exec(db_, "SELECT count(*) FROM sqlite_master;", nullptr, nullptr, nullptr);
     if (rc != SQLITE_OK) fail(db_, rc, busyTimeoutMs_, "Can't read the database");
     if (!created) checkMark();
+    struct stat opened {};
+    if (stat(path.c_str(), &opened) == 0) {
+      fileId_ = {true, static_cast<uint64_t>(opened.st_dev), static_cast<uint64_t>(opened.st_ino)};
+    }
     // The system's data relies on no foreign key rule.
     exec("PRAGMA foreign_keys=OFF;", "Can't set up the database");
     setJournal(created);

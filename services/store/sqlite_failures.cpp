@@ -41,6 +41,12 @@ bool isNetworkFileSystem(const std::string& path) {
   }
 }
 
+std::string movedWhileOpen(const std::string& path) {
+  return (path.empty() ? "The database" : "The database \"" + path + "\"") +
+         " was moved or deleted while it was open; the change was not saved. Put the file back "
+         "where it was and open it again.";
+}
+
 std::string failureText(const Failure& failure) {
   const std::string& path = failure.path;
   const int rc = failure.rc;
@@ -81,12 +87,7 @@ std::string failureText(const Failure& failure) {
              "firm's client database file." +
              detail;
     case SQLITE_READONLY:
-      if (rc == SQLITE_READONLY_DBMOVED) {
-        return database +
-               " was moved or deleted while it was open; the change was not saved. Open it again "
-               "from where it is now." +
-               detail;
-      }
+      if (rc == SQLITE_READONLY_DBMOVED) return movedWhileOpen(path) + detail;
       return database +
              " may not be written (the file or its folder is read-only for you); the change was "
              "not saved. Ask for write access to it, or copy it where you may write." +

@@ -31,6 +31,9 @@ struct Failure {
 // message.
 std::string failureText(const Failure& failure);
 
+// The text for a database file that was moved or deleted while it was open.
+std::string movedWhileOpen(const std::string& path);
+
 // The failure of the last call on db that returned rc.
 Failure failureOf(sqlite3* db, int rc, int busyTimeoutMs, const std::string& context);
 
