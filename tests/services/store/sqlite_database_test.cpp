@@ -512,6 +512,13 @@ TEST(StoreFailures, EachSaysWhatHappenedAndWhatToDo) {
             "The database \"/data/firm.db\" may not be read or written by you (permiss");
   EXPECT_EQ(text(SQLITE_CORRUPT).substr(0, 81),
             "The database \"/data/firm.db\" is damaged and can't be read. Restore it from its la");
+  Failure missingTable{
+      "/data/firm.db",          SQLITE_ERROR, 0, false, 5000, "Can't prepare the SQL",
+      "no such table: Contacts"};
+  EXPECT_EQ(failureText(missingTable),
+            "The database \"/data/firm.db\" lacks a table or column this program needs: it is not "
+            "a complete client database, or comes from another version.\nCan't prepare the SQL: "
+            "no such table: Contacts");
   // Anything else keeps SQLite's words after what the store was doing.
   EXPECT_EQ(text(SQLITE_CONSTRAINT), "Can't run the query: sqlite's words");
 }
