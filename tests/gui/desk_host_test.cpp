@@ -2,10 +2,15 @@
 // the client picker, the command line, and what the host does on close and
 // with a database it can't open.
 
+#include <QAbstractButton>
+#include <QApplication>
+#include <QMessageBox>
 #include <QStatusBar>
+#include <QTimer>
 #include <QTreeWidget>
 #include <filesystem>
 #include <fstream>
+#include <functional>
 #include <iterator>
 
 #include "app/desk/client_picker_dialog.h"
@@ -133,6 +138,36 @@ TEST(DeskStart, OnAMissingDatabaseItSaysSoAndCanMakeTheSample) {
   ASSERT_NE(window.component(), nullptr);
   EXPECT_EQ(window.roster().size(), 16 + 30);
   EXPECT_TRUE(std::filesystem::exists(folder.file("firm-files")));
+}
+
+// Not unattended: the box itself, its buttons and what the sample button does.
+TEST(DeskStart, TheStartBoxOffersAnotherDatabaseOrTheSample) {
+  ensureApplication();
+  TempFolder folder;
+  desk::DeskOptions options;
+  options.databasePath = folder.file("firm.db");
+  QStringList buttons;
+  std::function<void()> answer = [&] {
+    auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    if (box == nullptr) {
+      QTimer::singleShot(10, answer);
+      return;
+    }
+    const char* dir = std::getenv("QB_SCREENSHOT_DIR");
+    box->grab().save(QString::fromStdString(
+        (dir != nullptr ? std::string(dir) : folder.path().string()) + "/start-box.png"));
+    for (QAbstractButton* button : box->buttons()) buttons << button->text();
+    for (QAbstractButton* button : box->buttons()) {
+      if (button->text().contains("Sample")) button->click();
+    }
+  };
+  QTimer::singleShot(0, answer);
+  desk::ClientWindow window(options);
+  buttons.sort();
+  EXPECT_EQ(buttons, (QStringList{"&Create the Sample Database", "&Open Another Database…",
+                                  "Continue &Without", "Show Details..."}));
+  ASSERT_NE(window.component(), nullptr);
+  EXPECT_EQ(window.roster().size(), 16 + 30);
 }
 
 TEST(DeskOptions, ClientOption) {
