@@ -37,6 +37,7 @@
 #include <cstdint>
 #include <functional>
 #include <map>
+#include <optional>
 #include <ostream>
 #include <set>
 #include <stdexcept>
@@ -73,7 +74,7 @@ struct UsageError : std::runtime_error {
 struct Command;
 
 // What a command's run gets: its arguments, the output streams, the global
-// locale flags and the command itself.
+// locale and clock flags and the command itself.
 struct Context {
   Arguments args;
   std::ostream& out;
@@ -81,6 +82,7 @@ struct Context {
   int32_t country = 1;
   int32_t province = 3;
   int32_t user = 1;
+  std::optional<double> today = std::nullopt;  // --today as a date serial; none: the machine's date
   const Command* command = nullptr;
   // Set by the Session when its error object recorded a failure: the
   // command's output is then withheld.

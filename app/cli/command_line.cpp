@@ -1,9 +1,11 @@
 #include "app/cli/command_line.h"
 
 #include <algorithm>
+#include <optional>
 #include <sstream>
 
 #include "app/cli/id_options.h"
+#include "services/runtime/dates.h"
 
 namespace qb::cli {
 
@@ -14,9 +16,11 @@ const char* kGlobalHelp =
     "  --country N    the firm's country: 1 Canada, 2 United States (default 1)\n"
     "  --province N   the firm's province code (default 3, Ontario)\n"
     "  --user N       the signed-in user's id (default 1)\n"
+    "  --today DATE   today's date as YYYY-MM-DD for everything that reads it\n"
+    "                 (default: the machine's date)\n"
     "  --help         describe the tool, or the command given\n";
 
-const std::vector<std::string> kGlobalValues = {"country", "province", "user"};
+const std::vector<std::string> kGlobalValues = {"country", "province", "user", "today"};
 
 void printToolHelp(std::ostream& out) {
   out << "quillbox - the document-link manager and merge engine's command-line tool\n\n"
@@ -26,7 +30,7 @@ void printToolHelp(std::ostream& out) {
             [](const Command& a, const Command& b) { return a.name < b.name; });
   for (const Command& command : commands) {
     out << "  " << command.name
-        << std::string(command.name.size() < 16 ? 16 - command.name.size() : 1, ' ')
+        << std::string(command.name.size() < 18 ? 18 - command.name.size() : 1, ' ')
         << command.summary << "\n";
   }
   out << "\n" << kGlobalHelp << "\nRun 'quillbox COMMAND --help' for a command's options.\n";
@@ -51,6 +55,20 @@ std::vector<std::string> groupCommands(const std::string& word) {
 
 bool contains(const std::vector<std::string>& list, const std::string& name) {
   return std::find(list.begin(), list.end(), name) != list.end();
+}
+
+// --today YYYY-MM-DD as a date serial; none when the flag is not given.
+std::optional<double> todayFlag(const Arguments& args) {
+  if (!args.has("today")) return std::nullopt;
+  const std::string text = args.value("today");
+  const bool shaped = text.size() == 10 && text[4] == '-' && text[7] == '-' &&
+                      std::all_of(text.begin(), text.end(),
+                                  [](char c) { return c == '-' || (c >= '0' && c <= '9'); });
+  double serial = 0;
+  if (!shaped || !parseDate(text, serial)) {
+    throw UsageError("--today takes a date as YYYY-MM-DD, not '" + text + "'");
+  }
+  return serial;
 }
 
 void parseOption(const std::vector<std::string>& words, size_t& i, CommandLine& line) {
@@ -133,6 +151,7 @@ int runTool(const std::vector<std::string>& words, std::ostream& out, std::ostre
     context.country = line.args.number("country", 1);
     context.province = line.args.number("province", 3);
     context.user = line.args.id("user", 1);
+    context.today = todayFlag(line.args);
     context.command = line.command;
     status = line.command->run(context);
     if (context.failureRecorded) return status != 0 ? status : 1;

@@ -18,6 +18,7 @@
 
 #include "app/desk/client_picker_dialog.h"
 #include "app/desk/dialog_error_object.h"
+#include "app/desk/merge_fields_window.h"
 #include "control/nv_document_quillbox.h"
 #include "data/mod_database_functions.h"
 #include "gui/message_box_object.h"
@@ -119,6 +120,10 @@ void ClientWindow::buildMenus() {
                   [this] {
                     if (component_) component_->setupDocumentsDisplay();
                   });
+
+  QMenu* tools = menuBar()->addMenu("&Tools");
+  tools->addAction(QIcon::fromTheme("insert-text"), "&Merge Fields…", this,
+                   [this] { openMergeFieldsWindow(*this); });
 }
 
 bool ClientWindow::openDatabase(const QString& path) {

@@ -1,19 +1,11 @@
 #include "services/controls/combo_box.h"
 
-#include "services/controls/control_failures.h"
-
 namespace qb {
 
 void ComboBox::setText(std::string value) {
   if (value == text_) return;
   text_ = std::move(value);
-  listIndex_ = -1;
-  for (int32_t i = 0; i < ListCount(); ++i) {
-    if (entries_[i].text == text_) {
-      listIndex_ = i;
-      break;
-    }
-  }
+  followText(text_);
   notify(ControlChange::Text);
   Change.raise();
 }
@@ -21,55 +13,6 @@ void ComboBox::setText(std::string value) {
 void ComboBox::setLocked(bool value) {
   locked_ = value;
   notify(ControlChange::Appearance);
-}
-
-void ComboBox::AddItem(const std::string& text, int32_t index) {
-  if (index > ListCount()) control_failures::invalidCall();
-  if (index < 0) index = ListCount();
-  entries_.insert(entries_.begin() + index, Entry{text, 0});
-  if (listIndex_ >= index) ++listIndex_;
-  newIndex_ = index;
-  notify(ControlChange::Items);
-}
-
-void ComboBox::RemoveItem(int32_t index) {
-  entry(index);
-  entries_.erase(entries_.begin() + index);
-  if (listIndex_ == index)
-    listIndex_ = -1;
-  else if (listIndex_ > index)
-    --listIndex_;
-  notify(ControlChange::Items);
-}
-
-void ComboBox::Clear() {
-  entries_.clear();
-  listIndex_ = -1;
-  newIndex_ = -1;
-  text_.clear();
-  notify(ControlChange::Items);
-}
-
-const ComboBox::Entry& ComboBox::entry(int32_t index) const {
-  if (index < 0 || index >= ListCount()) control_failures::invalidCall();
-  return entries_[index];
-}
-
-const std::string& ComboBox::List(int32_t index) const { return entry(index).text; }
-int32_t ComboBox::ItemData(int32_t index) const { return entry(index).itemData; }
-
-void ComboBox::setItemData(int32_t index, int32_t value) {
-  entry(index);
-  entries_[index].itemData = value;
-}
-
-void ComboBox::setListIndex(int32_t value) {
-  if (value < -1 || value >= ListCount()) control_failures::invalidProperty();
-  if (value == listIndex_) return;
-  listIndex_ = value;
-  if (value >= 0) text_ = entries_[value].text;
-  notify(ControlChange::Selection);
-  Click.raise();
 }
 
 }  // namespace qb

@@ -1,19 +1,18 @@
 #pragma once
-// ComboBox: a drop-down list with an edit part. The list is 0-based as the
-// platform counts it; each entry carries an ItemData number. ListIndex -1
-// means no entry is chosen. Click is raised when ListIndex changes.
+// ComboBox: a drop-down list with an edit part. The list (ListControl) is
+// 0-based as the platform counts it; each entry carries an ItemData number.
+// ListIndex -1 means no entry is chosen. Click is raised when ListIndex
+// changes; choosing an entry puts its text in the edit part.
 
-#include <cstdint>
 #include <string>
-#include <vector>
 
-#include "services/controls/control.h"
+#include "services/controls/list_control.h"
 
 namespace qb {
 
-class ComboBox : public Control {
+class ComboBox : public ListControl {
  public:
-  using Control::Control;
+  using ListControl::ListControl;
 
   const std::string& Text() const { return text_; }
   // Sets the edit text; ListIndex follows the entry with that exact text, or
@@ -22,39 +21,15 @@ class ComboBox : public Control {
   bool Locked() const { return locked_; }
   void setLocked(bool value);
 
-  // Appends an entry, or inserts it at index (0-based) when index >= 0. An
-  // index past ListCount is refused with err::kInvalidCall.
-  void AddItem(const std::string& text, int32_t index = -1);
-  // Removes the entry at index; an index out of range is refused with
-  // err::kInvalidCall.
-  void RemoveItem(int32_t index);
-  void Clear();
-  int32_t ListCount() const { return static_cast<int32_t>(entries_.size()); }
-  // The entry's text; an index out of range is refused with err::kInvalidCall.
-  const std::string& List(int32_t index) const;
-  int32_t ItemData(int32_t index) const;
-  void setItemData(int32_t index, int32_t value);
-  int32_t NewIndex() const { return newIndex_; }  // index of the last entry added
-
-  int32_t ListIndex() const { return listIndex_; }
-  // Chooses an entry (its text becomes Text) or none with -1; other values are
-  // refused with RuntimeError(err::kInvalidProperty, "Invalid property value").
-  void setListIndex(int32_t value);
-
   Event<void()> Change;
 
- private:
-  struct Entry {
-    std::string text;
-    int32_t itemData = 0;
-  };
-  const Entry& entry(int32_t index) const;
+ protected:
+  void entryChosen(int32_t index) override { text_ = List(index); }
+  void listCleared() override { text_.clear(); }
 
+ private:
   std::string text_;
   bool locked_ = false;
-  std::vector<Entry> entries_;
-  int32_t listIndex_ = -1;
-  int32_t newIndex_ = -1;
 };
 
 }  // namespace qb

@@ -3,7 +3,8 @@
 // objects of the library, shared by every instance of the component, its
 // dialogs and classes on one thread. The first assignment of a service object
 // wins (the component's property setters keep that rule); tests reset the
-// state between cases with resetModuleState().
+// state between cases with resetModuleState(). The host may also set the
+// clock that gives today's date (clock.h); without one the machine's answers.
 
 #include <memory>
 
@@ -18,6 +19,7 @@ class docQuillboxReferencesClass;
 class fileUtilitiesClass;
 class generalUtilitiesClass;
 class dateUtilitiesClass;
+class Clock;
 
 struct ModuleState {
   std::shared_ptr<ErrorObject> errorClass;
@@ -30,6 +32,8 @@ struct ModuleState {
   std::shared_ptr<fileUtilitiesClass> fileUtilities;
   std::shared_ptr<generalUtilitiesClass> generalUtilities;
   std::shared_ptr<dateUtilitiesClass> dateUtilities;
+
+  std::shared_ptr<Clock> clock;  // null: the machine's clock
 };
 
 // This thread's module state.

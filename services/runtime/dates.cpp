@@ -245,6 +245,20 @@ DateParts splitDate(double serial) {
   return parts;
 }
 
+namespace {
+
+// Whole minutes from the start of the serials to the minute a serial is in.
+int64_t minuteOf(double serial) {
+  DateParts p = splitDate(serial);
+  long long day =
+      daysFromCivil(p.year, static_cast<unsigned>(p.month), static_cast<unsigned>(p.day));
+  return static_cast<int64_t>(day - kEpochOffset) * 1440 + p.hour * 60 + p.minute;
+}
+
+}  // namespace
+
+int64_t DateDiffMinutes(double from, double to) { return minuteOf(to) - minuteOf(from); }
+
 double fromTimeT(std::time_t t) {
   std::tm local{};
   localtime_r(&t, &local);

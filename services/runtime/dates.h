@@ -24,6 +24,10 @@ double TimeSerial(int hour, int minute, int second);
 // still counts the days and the fraction, taken as absolute, is the time:
 // -1.25 is 29 December 1899, 6:00.
 DateParts splitDate(double serial);
+// DateDiff with the interval "n": the minute boundaries crossed from the first
+// date to the second, negative when the second is earlier. Seconds do not
+// count: 9:00:59 to 9:01:00 is one minute, 9:00:00 to 9:00:59 none.
+int64_t DateDiffMinutes(double from, double to);
 // The machine's current local date and time.
 double Now();
 double Today();

@@ -41,7 +41,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   }
   const qb::cli::Command& command = *line.command;
   for (const auto& [name, value] : line.args.values_) {
-    bool global = name == "country" || name == "province" || name == "user";
+    bool global = name == "country" || name == "province" || name == "user" || name == "today";
     if (!global && !declared(command.valueOptions, name)) __builtin_trap();
   }
   for (const std::string& flag : line.args.flags_) {

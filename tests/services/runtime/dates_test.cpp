@@ -83,5 +83,16 @@ TEST(Dates, DateToText) {
   EXPECT_EQ(CStr(Variant::date(DateSerial(1899, 12, 29))), "12/29/1899");
 }
 
+TEST(Dates, MinutesBetweenCountMinuteBoundaries) {
+  const double nine = DateSerial(2026, 3, 2) + TimeSerial(9, 0, 0);
+  EXPECT_EQ(DateDiffMinutes(nine, nine + TimeSerial(1, 30, 0)), 90);
+  EXPECT_EQ(DateDiffMinutes(nine + TimeSerial(1, 30, 0), nine), -90);
+  EXPECT_EQ(DateDiffMinutes(nine, nine + TimeSerial(0, 0, 59)), 0);
+  EXPECT_EQ(DateDiffMinutes(nine + TimeSerial(0, 0, 59), nine + TimeSerial(0, 1, 0)), 1);
+  // Across midnight and across the start of the serials.
+  EXPECT_EQ(DateDiffMinutes(DateSerial(2026, 3, 1) + TimeSerial(23, 50, 0), nine), 9 * 60 + 10);
+  EXPECT_EQ(DateDiffMinutes(-1.25, 0.25), 24 * 60);  // 29 December 1899 6:00 to the next day
+}
+
 }  // namespace
 }  // namespace qb
