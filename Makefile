@@ -3,7 +3,7 @@ BUILD ?= build
 JOBS ?= $(shell nproc)
 CMAKE_FLAGS ?=
 
-.PHONY: all deps configure build run test test-sanitize fuzz bench clean sample
+.PHONY: all deps configure build run test test-sanitize fuzz bench clean sample install package
 
 all: build
 
@@ -39,6 +39,16 @@ fuzz: deps
 	  -DQB_FUZZ=ON -DQB_BUILD_GUI=OFF -DQB_BUILD_BENCH=OFF
 	cmake --build $(BUILD)-fuzz -j $(JOBS)
 	bash scripts/fuzz.sh $(BUILD)-fuzz $(FUZZ_SECONDS)
+
+# Installs the programs, the desktop entry, the icon and the manual page
+# under PREFIX (DESTDIR is honoured too).
+PREFIX ?= /usr/local
+install: build
+	cmake --install $(BUILD) --prefix $(PREFIX)
+
+# A Debian package that installs under /usr, in $(BUILD)/package.
+package: build
+	cd $(BUILD) && cpack -G DEB
 
 bench: build
 	$(BUILD)/quillbox_bench

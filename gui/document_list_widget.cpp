@@ -3,11 +3,48 @@
 #include <QHeaderView>
 #include <QItemSelectionModel>
 #include <QStackedLayout>
+#include <QStyledItemDelegate>
 
 #include "gui/sync_guard.h"
 #include "gui/twips.h"
 
 namespace qb::gui {
+
+namespace {
+
+// Room left between the cells of the grid.
+constexpr int kCellGap = 2;
+// The width of a cell under large icons.
+constexpr int kIconCellWidth = 104;
+
+// Every row of the list view fills its grid cell. The view would otherwise
+// size all rows by the first one, so that a short first name (which changes
+// with the sort) cut every longer one short; in a cell, a name takes the
+// lines and the width the cell has.
+class GridCellDelegate : public QStyledItemDelegate {
+ public:
+  using QStyledItemDelegate::QStyledItemDelegate;
+
+  QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+    const auto* view = qobject_cast<const QListView*>(option.widget);
+    if (view == nullptr || !view->gridSize().isValid())
+      return QStyledItemDelegate::sizeHint(option, index);
+    const QSize cell = view->gridSize() - QSize(kCellGap, kCellGap);
+    if (view->viewMode() == QListView::IconMode) return cell;
+    return {cell.width(), QStyledItemDelegate::sizeHint(option, index).height()};
+  }
+
+ protected:
+  // Under a large icon the name starts right below it, however many lines
+  // it takes.
+  void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
+    QStyledItemDelegate::initStyleOption(option, index);
+    if (option->decorationPosition == QStyleOptionViewItem::Top)
+      option->displayAlignment = Qt::AlignHCenter | Qt::AlignTop;
+  }
+};
+
+}  // namespace
 
 DocumentListWidget::DocumentListWidget(ListView& control, QWidget* parent)
     : BoundWidget(control, parent),
@@ -34,6 +71,7 @@ DocumentListWidget::DocumentListWidget(ListView& control, QWidget* parent)
   }
   listView_.forwardTo(&binding().input(), true);
   detailsView_.forwardTo(&binding().input(), true);
+  listView_.setItemDelegate(new GridCellDelegate(&listView_));
   listView_.setUniformItemSizes(true);
   listView_.setTextElideMode(Qt::ElideRight);
   detailsView_.setRootIsDecorated(false);
@@ -148,7 +186,9 @@ void DocumentListWidget::applyListMode() {
     listView_.setFlow(control().Arrange() == lvwAutoLeft ? QListView::TopToBottom
                                                          : QListView::LeftToRight);
     listView_.setIconSize(QSize(32, 32));
-    listView_.setGridSize(QSize(104, 72));
+    // A cell holds the icon and three lines of the name.
+    listView_.setGridSize(
+        QSize(kIconCellWidth, 32 + 3 * listView_.fontMetrics().lineSpacing() + 12));
     listView_.setSpacing(0);
   } else {
     listView_.setFlow(view == lvwSmallIcon ? QListView::LeftToRight : QListView::TopToBottom);

@@ -2,8 +2,10 @@
 
 #include <QApplication>
 #include <QCursor>
+#include <QScreen>
 #include <QWidget>
 
+#include "gui/popup_placement.h"
 #include "gui/twips.h"
 #include "services/controls/menu_item.h"
 #include "services/controls/platform.h"
@@ -26,10 +28,18 @@ QtPlatform::QtPlatform(QWidget* window)
   installPopupMenuHandler(
       [this](MenuItem& model, int32_t flags, std::optional<float> x, std::optional<float> y) {
         PopupMenu menu(model, window_);
-        QPoint position = QCursor::pos();
-        if (x && y && window_) position = window_->mapToGlobal(QPoint(toPixels(*x), toPixels(*y)));
-        // Right-aligned: the menu's right edge stands at the point.
-        if (flags & kRightAlign) position.rx() -= menu.menu().sizeHint().width();
+        QPoint at = QCursor::pos();
+        if (x && y && window_) at = window_->mapToGlobal(QPoint(toPixels(*x), toPixels(*y)));
+        QRect window;
+        QScreen* screen = QGuiApplication::screenAt(at);
+        if (window_) {
+          const QWidget& top = *window_->window();
+          window = QRect(top.mapToGlobal(QPoint(0, 0)), top.size());
+          if (screen == nullptr) screen = top.screen();
+        }
+        const QRect area = screen ? screen->availableGeometry() : window;
+        const QPoint position =
+            popupPosition(at, menu.menu().sizeHint(), (flags & kRightAlign) != 0, window, area);
         menu.choose(runner_(menu, position));
       });
 }

@@ -4,8 +4,9 @@
 // processEvents (at most once in 20 ms: a loop that pumps twice per row
 // would otherwise repaint for every row); the screen's busy pointer (11) shows the wait cursor over
 // the whole application and 0 takes it away; pop-up menus are QMenus built
-// from the menu model and run at the mouse, and the entry chosen runs its
-// click. Destroying it puts the platform back to its start state.
+// from the menu model and run at the mouse, kept on the window and the
+// screen (popup_placement.h), and the entry chosen runs its click. Destroying it puts the platform
+// back to its start state.
 
 #include <QElapsedTimer>
 #include <QPoint>

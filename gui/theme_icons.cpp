@@ -1,34 +1,30 @@
 #include "gui/theme_icons.h"
 
-#include <QDir>
-#include <QFileInfo>
-#include <QGuiApplication>
+#include <QFile>
 #include <QHash>
 #include <QMimeDatabase>
 #include <QPainter>
 #include <QPainterPath>
 #include <QPixmap>
-#include <QStandardPaths>
+
+// The embedded icons' resource is registered from the global namespace, as
+// Qt's resource system requires; the GUI library is static, so the program
+// links it in through this call.
+static void registerShippedIcons() {
+  static const bool registered = [] {
+    Q_INIT_RESOURCE(fallback_icons);
+    return true;
+  }();
+  (void)registered;
+}
 
 namespace qb::gui {
 
 namespace {
 
-// The icon folders of the system's data directories.
-QStringList systemIconFolders() {
-  QStringList folders;
-  for (const QString& data :
-       QStandardPaths::standardLocations(QStandardPaths::GenericDataLocation)) {
-    folders << data + "/icons";
-  }
-  folders << "/usr/share/icons"
-          << "/usr/local/share/icons";
-  QStringList existing;
-  for (const QString& folder : folders) {
-    if (QDir(folder).exists() && !existing.contains(folder)) existing << folder;
-  }
-  return existing;
-}
+const QString kShippedFolder = QStringLiteral(":/quillbox/icons/");
+// The sizes a shipped icon holds.
+constexpr int kIconSizes[] = {16, 22, 24, 32, 48, 64, 96};
 
 QPixmap drawnPage(int size) {
   QPixmap pixmap(size, size);
@@ -84,23 +80,34 @@ QStringList candidateNames(const QString& name) {
 
 }  // namespace
 
-void ensureIconTheme() {
-  const bool offscreen = QGuiApplication::platformName() == "offscreen";
-  if (!QIcon::themeName().isEmpty() && !offscreen) return;
-  QStringList paths = QIcon::themeSearchPaths();
-  for (const QString& folder : systemIconFolders()) {
-    if (!paths.contains(folder)) paths << folder;
-  }
-  QIcon::setThemeSearchPaths(paths);
-  QIcon::setFallbackThemeName("hicolor");
-  for (const QString& folder : paths) {
-    if (QFileInfo::exists(folder + "/Adwaita/index.theme")) {
-      QIcon::setThemeName("Adwaita");
-      return;
+void ensureIconTheme() { registerShippedIcons(); }
+
+bool desktopHasIconTheme() {
+  const QString theme = QIcon::themeName();
+  return !theme.isEmpty() && theme != "hicolor";
+}
+
+QIcon shippedIcon(const std::string& name) {
+  registerShippedIcons();
+  const QString file = QString::fromStdString(name);
+  const QString drawing = kShippedFolder + "scalable/" + file + ".svg";
+  if (!QFile::exists(drawing)) return QIcon();
+  // The set's pixel drawings where it has them, the SVG drawn at the other
+  // sizes (the larger ones for high-resolution screens and large views).
+  const QIcon scalable(drawing);
+  QIcon icon;
+  for (int size : kIconSizes) {
+    const QString drawn = kShippedFolder + QString("%1x%1/").arg(size) + file + ".png";
+    if (QFile::exists(drawn)) {
+      icon.addFile(drawn, QSize(size, size));
+    } else {
+      icon.addPixmap(scalable.pixmap(QSize(size, size), 1.0));
     }
   }
-  QIcon::setThemeName("hicolor");
+  return icon;
 }
+
+QIcon programIcon() { return shippedIcon("quillbox"); }
 
 QIcon drawnPageIcon() {
   static const QIcon icon = [] {
@@ -126,14 +133,20 @@ QIcon monochromeIcon(const QIcon& icon, const QColor& color) {
 }
 
 QIcon themeIcon(const std::string& name) {
+  // Keyed by theme too: a desktop may change its theme while the program runs.
   static QHash<QString, QIcon> cache;
-  const QString key = QString::fromStdString(name);
+  const bool useTheme = desktopHasIconTheme();
+  const QString key =
+      (useTheme ? QIcon::themeName() : QString()) + '/' + QString::fromStdString(name);
   auto found = cache.constFind(key);
   if (found != cache.constEnd()) return *found;
   QIcon icon;
-  if (!key.isEmpty()) {
-    for (const QString& candidate : candidateNames(key)) {
-      icon = QIcon::fromTheme(candidate);
+  if (!name.empty()) {
+    // Each name is asked of the theme, then of the shipped set, before the
+    // next, more generic name is tried.
+    for (const QString& candidate : candidateNames(QString::fromStdString(name))) {
+      if (useTheme) icon = QIcon::fromTheme(candidate);
+      if (icon.isNull()) icon = shippedIcon(candidate.toStdString());
       if (!icon.isNull()) break;
     }
   }

@@ -1,8 +1,10 @@
 #pragma once
-// Icons from the desktop's icon theme. The control models name their
-// pictures by icon theme name ("folder-open", "application-pdf"); the GUI
-// looks them up here. A name the theme lacks falls back to the generic icon
-// of its file type, then to a drawn page, so no row or node is ever blank.
+// Icons by freedesktop icon name. The control models name their pictures by
+// icon name ("folder-open", "application-pdf"), and the GUI asks for button
+// and menu icons the same way. The desktop's icon theme answers first; the
+// icons the program ships (SVG, embedded) answer for a desktop without a
+// theme and for names the theme lacks; a file type's generic icon, then a
+// drawn page, come last, so no row, node or button is ever blank.
 
 #include <QIcon>
 #include <string>
@@ -11,16 +13,37 @@
 
 namespace qb::gui {
 
-// Sets an icon theme when the platform gives none (the offscreen platform, a
-// bare X server): Adwaita from the system's icon folders, hicolor behind it.
-// Does nothing when the desktop names a theme.
+// The names of the dialog buttons' icons. The program ships each of them.
+namespace iconNames {
+constexpr const char* kOpen = "document-open";
+constexpr const char* kBrowse = "folder";
+constexpr const char* kFind = "edit-find";
+constexpr const char* kClose = "window-close";
+constexpr const char* kCancel = "dialog-cancel";
+constexpr const char* kOk = "dialog-ok";
+constexpr const char* kGoTo = "go-jump";
+}  // namespace iconNames
+
+// Makes the shipped icons available. The desktop's icon theme, or its lack
+// of one, is left as it is. Call once after the QApplication is made.
 void ensureIconTheme();
 
-// The theme icon of that name, else its file type's generic icon, else the
-// drawn page. Never null.
+// True when the desktop names an icon theme of its own: a name other than
+// none and the bare "hicolor" base.
+bool desktopHasIconTheme();
+
+// The icon of that name: the desktop theme's, else the shipped one, else the
+// theme's or the shipped generic icon of its file type or media group, else
+// the drawn page. Never null.
 QIcon themeIcon(const std::string& name);
 
-// The icon of a picture: a theme icon by name or an image file. An empty
+// The shipped icon of that name; a null icon when the program ships none.
+QIcon shippedIcon(const std::string& name);
+
+// The program's own icon, for its windows.
+QIcon programIcon();
+
+// The icon of a picture: an icon by name or an image file. An empty
 // picture, or a file that can't be read, gives the drawn page.
 QIcon iconFor(const Picture& picture);
 

@@ -14,6 +14,13 @@ packages=(
   clang libclang-rt-dev
   adwaita-icon-theme hicolor-icon-theme
   fonts-dejavu-core
+  # The icons the program ships (taken from the installed set at build
+  # time) and the SVG icon engine that draws them.
+  tango-icon-theme qt6-svg-dev
+  # The GUI tests on a real X server with a plain window manager.
+  xvfb openbox
+  # The Debian package: its dependencies, and a check of its desktop entry.
+  dpkg-dev file desktop-file-utils
 )
 
 missing=()

@@ -18,7 +18,8 @@ const char* kGlobalHelp =
     "  --user N       the signed-in user's id (default 1)\n"
     "  --today DATE   today's date as YYYY-MM-DD for everything that reads it\n"
     "                 (default: the machine's date)\n"
-    "  --help         describe the tool, or the command given\n";
+    "  --help         describe the tool, or the command given\n"
+    "  --version      print the tool's version\n";
 
 const std::vector<std::string> kGlobalValues = {"country", "province", "user", "today"};
 
@@ -122,6 +123,9 @@ void parseCommandLine(const std::vector<std::string>& words, CommandLine& line) 
     const std::string& word = words[i];
     if (word == "--help" || word == "-h") {
       line.help = true;
+    } else if (word == "--version") {
+      line.version = true;
+      return;
     } else if (word.rfind("--", 0) == 0) {
       parseOption(words, i, line);
     } else if (line.command == nullptr) {
@@ -138,6 +142,10 @@ int runTool(const std::vector<std::string>& words, std::ostream& out, std::ostre
   int status = 0;
   try {
     parseCommandLine(words, line);
+    if (line.version) {
+      out << "quillbox " << QB_VERSION << "\n";
+      return 0;
+    }
     if (line.command == nullptr) {
       printToolHelp(line.help ? out : err);
       return line.help ? 0 : 2;

@@ -15,12 +15,13 @@ namespace qb::cli {
 struct CommandLine {
   const Command* command = nullptr;
   bool help = false;
+  bool version = false;  // --version: the rest is not read
   Arguments args;
 };
 
 // Parses the words after the program's name into line: global options and the
 // command's options, before or after its name, "--name value" or
-// "--name=value". Throws UsageError for an unknown command or option, a
+// "--name=value"; --version ends it. Throws UsageError for an unknown command or option, a
 // missing value or a stray word.
 void parseCommandLine(const std::vector<std::string>& words, CommandLine& line);
 

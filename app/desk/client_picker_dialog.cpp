@@ -2,6 +2,7 @@
 
 #include <QDialogButtonBox>
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -10,7 +11,8 @@
 
 namespace qb::desk {
 
-ClientPickerDialog::ClientPickerDialog(const ClientRoster& roster, int current, QWidget* parent)
+ClientPickerDialog::ClientPickerDialog(const hosts::ClientRoster& roster, int current,
+                                       QWidget* parent)
     : QDialog(parent), search_(new QLineEdit(this)), list_(new QTreeWidget(this)) {
   setWindowTitle("Find Client");
   resize(420, 460);
@@ -30,7 +32,7 @@ ClientPickerDialog::ClientPickerDialog(const ClientRoster& roster, int current, 
   list_->header()->setSectionResizeMode(0, QHeaderView::Stretch);
   list_->header()->setSectionResizeMode(1, QHeaderView::ResizeToContents);
   for (int i = 0; i < roster.size(); ++i) {
-    const Client& client = roster.at(i);
+    const hosts::Client& client = roster.at(i);
     auto* item = new QTreeWidgetItem(
         list_, {QString::fromStdString(client.name), client.isCompany ? "Company" : "Contact"});
     item->setData(0, Qt::UserRole, i);
@@ -48,7 +50,29 @@ ClientPickerDialog::ClientPickerDialog(const ClientRoster& roster, int current, 
     buttons->button(QDialogButtonBox::Ok)->setEnabled(item != nullptr && !item->isHidden());
   });
   buttons->button(QDialogButtonBox::Ok)->setEnabled(list_->currentItem() != nullptr);
+  search_->installEventFilter(this);
   search_->setFocus();
+}
+
+bool ClientPickerDialog::eventFilter(QObject* watched, QEvent* event) {
+  // The arrow and page keys in the filter box go on into the list, onto the
+  // client highlighted there (the first one shown when none is).
+  if (watched == search_ && event->type() == QEvent::KeyPress) {
+    switch (static_cast<QKeyEvent*>(event)->key()) {
+      case Qt::Key_Down:
+      case Qt::Key_Up:
+      case Qt::Key_PageDown:
+      case Qt::Key_PageUp:
+        if (list_->currentItem() == nullptr || list_->currentItem()->isHidden())
+          filter(search_->text());
+        list_->setFocus(Qt::TabFocusReason);
+        if (QTreeWidgetItem* item = list_->currentItem()) list_->scrollToItem(item);
+        return true;
+      default:
+        break;
+    }
+  }
+  return QDialog::eventFilter(watched, event);
 }
 
 void ClientPickerDialog::filter(const QString& text) {

@@ -19,10 +19,13 @@
 #include "app/desk/client_picker_dialog.h"
 #include "app/desk/dialog_error_object.h"
 #include "app/desk/merge_fields_window.h"
+#include "app/desk/window_state.h"
 #include "control/nv_document_quillbox.h"
 #include "data/mod_database_functions.h"
+#include "gui/file_dialogs.h"
 #include "gui/message_box_object.h"
 #include "gui/qt_platform.h"
+#include "gui/theme_icons.h"
 #include "gui/user_control_host.h"
 #include "gui/widget_owner_form.h"
 #include "sample/new_database.h"
@@ -62,7 +65,7 @@ ClientWindow::ClientWindow(const DeskOptions& options, QWidget* parent)
     messages_->setUnattended(&std::cerr);
   }
   setWindowTitle("Client Documents");
-  setWindowIcon(QIcon::fromTheme("x-office-address-book"));
+  setWindowIcon(gui::programIcon());
   auto* central = new QWidget(this);
   auto* layout = new QVBoxLayout(central);
   layout->setContentsMargins(4, 4, 4, 0);
@@ -72,36 +75,42 @@ ClientWindow::ClientWindow(const DeskOptions& options, QWidget* parent)
   documentStatus_ = new QLabel(this);
   statusBar()->addPermanentWidget(clientStatus_);
   statusBar()->addPermanentWidget(documentStatus_);
-  resize(1100, 720);
-  if (options_.databasePath.empty()) return;
-  const QString path = QString::fromStdString(options_.databasePath);
+  restoreWindowGeometry(*this, QSize(1100, 720));
+  // Without a database named, the one open last time.
+  const QString database = options_.databasePath.empty()
+                               ? lastDatabase()
+                               : QString::fromStdString(options_.databasePath);
+  if (database.isEmpty()) {
+    statusBar()->showMessage("No client database is open: File ▸ Open Database… opens one.");
+    return;
+  }
   QString reason;
-  if (!hostDatabase(path, reason)) offerAnotherDatabase(path, reason);
+  if (!hostDatabase(database, reason)) offerAnotherDatabase(database, reason);
 }
 
 ClientWindow::~ClientWindow() { releaseComponent(); }
 
 void ClientWindow::buildMenus() {
   QMenu* file = menuBar()->addMenu("&File");
-  QAction* open = file->addAction(QIcon::fromTheme("document-open"), "&Open Database…", this,
+  QAction* open = file->addAction(gui::themeIcon("document-open"), "&Open Database…", this,
                                   [this] { chooseDatabase(); });
   open->setShortcut(QKeySequence::Open);
   file->addSeparator();
   QAction* quit =
-      file->addAction(QIcon::fromTheme("application-exit"), "&Quit", this, [this] { close(); });
+      file->addAction(gui::themeIcon("application-exit"), "&Quit", this, [this] { close(); });
   quit->setShortcut(QKeySequence::Quit);
 
   QMenu* client = menuBar()->addMenu("&Client");
-  client->addAction(QIcon::fromTheme("go-first"), "&First Client", QKeySequence("Alt+Home"), this,
+  client->addAction(gui::themeIcon("go-first"), "&First Client", QKeySequence("Alt+Home"), this,
                     [this] { moveTo(0); });
-  client->addAction(QIcon::fromTheme("go-previous"), "&Previous Client", QKeySequence("Alt+PgUp"),
+  client->addAction(gui::themeIcon("go-previous"), "&Previous Client", QKeySequence("Alt+PgUp"),
                     this, [this] { moveTo(current_ - 1); });
-  client->addAction(QIcon::fromTheme("go-next"), "&Next Client", QKeySequence("Alt+PgDown"), this,
+  client->addAction(gui::themeIcon("go-next"), "&Next Client", QKeySequence("Alt+PgDown"), this,
                     [this] { moveTo(current_ + 1); });
-  client->addAction(QIcon::fromTheme("go-last"), "&Last Client", QKeySequence("Alt+End"), this,
+  client->addAction(gui::themeIcon("go-last"), "&Last Client", QKeySequence("Alt+End"), this,
                     [this] { moveTo(roster_.size() - 1); });
   client->addSeparator();
-  client->addAction(QIcon::fromTheme("edit-find"), "F&ind Client…", QKeySequence::Find, this,
+  client->addAction(gui::themeIcon("edit-find"), "F&ind Client…", QKeySequence::Find, this,
                     [this] { findClient(); });
 
   QMenu* view = menuBar()->addMenu("&View");
@@ -116,13 +125,12 @@ void ClientWindow::buildMenus() {
     });
   }
   view->addSeparator();
-  view->addAction(QIcon::fromTheme("view-refresh"), "&Refresh", QKeySequence::Refresh, this,
-                  [this] {
-                    if (component_) component_->setupDocumentsDisplay();
-                  });
+  view->addAction(gui::themeIcon("view-refresh"), "&Refresh", QKeySequence::Refresh, this, [this] {
+    if (component_) component_->setupDocumentsDisplay();
+  });
 
   QMenu* tools = menuBar()->addMenu("&Tools");
-  tools->addAction(QIcon::fromTheme("insert-text"), "&Merge Fields…", this,
+  tools->addAction(gui::themeIcon("insert-text"), "&Merge Fields…", this,
                    [this] { openMergeFieldsWindow(*this); });
 }
 
@@ -158,6 +166,7 @@ bool ClientWindow::hostDatabase(const QString& path, QString& reason) {
   locale_->ownerForm = owner_.get();
   hostComponent();
   statusBar()->showMessage(QDir::toNativeSeparators(path), 4000);
+  rememberDatabase(path);
   return true;
 }
 
@@ -173,7 +182,7 @@ void ClientWindow::hostComponent() {
   quillbox.setWorkingFolderReference(folder_);
   quillbox.setLocaleReference(locale_);
 
-  roster_ = ClientRoster::load(*store_);
+  roster_ = hosts::ClientRoster::load(*store_);
   current_ = -1;
   if (options_.clientIsCompany) {
     current_ = roster_.find(*options_.clientIsCompany, options_.clientID);
@@ -184,7 +193,7 @@ void ClientWindow::hostComponent() {
     current_ = roster_.firstWithDocuments();
   }
   if (current_ >= 0) {
-    const Client& client = roster_.at(current_);
+    const hosts::Client& client = roster_.at(current_);
     if (client.isCompany) {
       quillbox.setCompanyIDNum(client.id);
     } else {
@@ -240,13 +249,14 @@ void ClientWindow::releaseComponent() {
   component_.reset();
   resetModuleState();
   store_.reset();
-  roster_ = ClientRoster();
+  roster_ = hosts::ClientRoster();
   current_ = -1;
 }
 
 void ClientWindow::closeEvent(QCloseEvent* event) {
   // The user's view of the list is kept for the next time.
   if (component_) component_->putDocQuillboxListViewSettings();
+  saveWindowGeometry(*this);
   releaseComponent();
   event->accept();
 }
@@ -254,7 +264,7 @@ void ClientWindow::closeEvent(QCloseEvent* event) {
 void ClientWindow::showClient(int index) {
   if (!component_ || index < 0 || index >= roster_.size()) return;
   current_ = index;
-  const Client& client = roster_.at(index);
+  const hosts::Client& client = roster_.at(index);
   if (client.isCompany) {
     component_->setCompanyIDNum(client.id);
   } else {
@@ -285,11 +295,14 @@ void ClientWindow::findClient() {
 }
 
 void ClientWindow::chooseDatabase() {
-  const QString start =
-      store_ ? QString::fromStdString(folder_->getDataFolder()) : QDir::homePath();
-  const QString path = QFileDialog::getOpenFileName(this, "Open Client Database", start,
-                                                    "Client databases (*.db);;All files (*)");
-  if (path.isEmpty()) return;
+  // The folder last chosen in, else the open database's.
+  const QString current = store_ ? QString::fromStdString(folder_->getDataFolder()) : QString();
+  QFileDialog dialog(this, "Open Client Database", QString(),
+                     "Client databases (*.db);;All files (*)");
+  dialog.setFileMode(QFileDialog::ExistingFile);
+  const QStringList chosen = gui::runFileDialog(dialog, "database", current);
+  if (chosen.isEmpty()) return;
+  const QString& path = chosen.first();
   if (component_) component_->putDocQuillboxListViewSettings();
   openDatabase(path);
 }

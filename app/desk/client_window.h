@@ -12,7 +12,7 @@
 #include <QMainWindow>
 #include <memory>
 
-#include "app/desk/client_roster.h"
+#include "app/common/client_roster.h"
 #include "app/desk/desk_options.h"
 
 class QActionGroup;
@@ -59,7 +59,7 @@ class ClientWindow : public QMainWindow {
   // roster.
   bool showClient(bool isCompany, int32_t id);
   int currentClient() const { return current_; }
-  const ClientRoster& roster() const { return roster_; }
+  const hosts::ClientRoster& roster() const { return roster_; }
 
   // The component and its widgets; null before a database is open.
   nvDocumentQuillbox* component() const { return component_.get(); }
@@ -103,7 +103,7 @@ class ClientWindow : public QMainWindow {
   int32_t listObserver_ = 0;
   bool started_ = false;
 
-  ClientRoster roster_;
+  hosts::ClientRoster roster_;
   int current_ = -1;
 
   QActionGroup* views_ = nullptr;

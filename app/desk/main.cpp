@@ -51,12 +51,17 @@ int main(int argc, char** argv) {
   QApplication app(argc, argv);
   QApplication::setApplicationName("quillbox-desk");
   QApplication::setApplicationDisplayName("Orvanta");
+  QApplication::setApplicationVersion(QB_VERSION);
+  // The desktop entry that names the program, its icon on every window.
+  QGuiApplication::setDesktopFileName("quillbox");
+  QApplication::setWindowIcon(qb::gui::programIcon());
 
   QCommandLineParser parser;
   parser.setApplicationDescription("The client documents screen over a client database.");
   parser.addHelpOption();
+  parser.addVersionOption();
   parser.addOptions({
-      {"db", "The client database to open.", "FILE"},
+      {"db", "The client database to open (default: the one open last).", "FILE"},
       {"client",
        "The client to start with: company:ID or contact:ID (default: the first company "
        "that has documents).",

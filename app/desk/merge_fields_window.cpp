@@ -9,6 +9,7 @@
 #include "app/desk/client_window.h"
 #include "gui/list_box_widget.h"
 #include "gui/rich_text_box_widget.h"
+#include "gui/theme_icons.h"
 #include "merge/cls_insert_fields_in_rtb.h"
 #include "services/controls/list_box.h"
 #include "services/controls/rich_text_box.h"
@@ -59,14 +60,14 @@ QWidget* group(const QString& title, QWidget* content, QWidget* parent) {
 
 }  // namespace
 
-MergeFieldsWindow::MergeFieldsWindow(const Client& client, QWidget* parent)
+MergeFieldsWindow::MergeFieldsWindow(const hosts::Client& client, QWidget* parent)
     : QDialog(parent),
       clientFields_(std::make_unique<ListBox>("lstClientFields")),
       firmFields_(std::make_unique<ListBox>("lstFirmFields")),
       template_(std::make_unique<RichTextBox>("rtbTemplate")),
       fields_(std::make_unique<clsInsertFieldsInRTB>()) {
   setWindowTitle("Merge Fields");
-  setWindowIcon(QIcon::fromTheme("insert-text"));
+  setWindowIcon(gui::themeIcon("insert-text"));
   auto* layout = new QVBoxLayout(this);
   auto* caption = new QLabel(QString("Fields for <b>%1</b> (%2), in the firm's region: %3")
                                  .arg(QString::fromStdString(client.name).toHtmlEscaped(),

@@ -12,7 +12,7 @@
 #include <QDialog>
 #include <memory>
 
-#include "app/desk/client_roster.h"
+#include "app/common/client_roster.h"
 
 namespace qb {
 class clsInsertFieldsInRTB;
@@ -33,7 +33,7 @@ class MergeFieldsWindow : public QDialog {
  public:
   // Builds both lists for the client: a company's fields with its default
   // contact's, or a contact's own.
-  MergeFieldsWindow(const Client& client, QWidget* parent);
+  MergeFieldsWindow(const hosts::Client& client, QWidget* parent);
   ~MergeFieldsWindow() override;
 
   ListBox& clientFields() const { return *clientFields_; }

@@ -7,8 +7,10 @@
 #include <QHeaderView>
 #include <QListView>
 #include <QPushButton>
+#include <QStyledItemDelegate>
 
-#include "app/desk/client_roster.h"
+#include "app/common/client_roster.h"
+#include "gui/theme_icons.h"
 #include "services/controls/platform.h"
 #include "tests/gui/desk_fixture.h"
 
@@ -124,7 +126,67 @@ TEST_F(DeskTest, ShowsTheFourViewsAndSavesScreenshots) {
   }
 }
 
-TEST_F(DeskTest, PdfRowsShowTheThemeIconAndTheFillShowsTheBusyPointer) {
+// Every row of the icon views fills its grid cell, whichever row comes
+// first; under large icons the cell has room for the whole name.
+void expectRowsFillTheirCells(QListView& view, const std::string& where) {
+  const QSize cell = view.gridSize() - QSize(2, 2);
+  QAbstractItemModel& rows = *view.model();
+  ASSERT_GT(rows.rowCount(), 1) << where;
+  for (int row = 0; row < rows.rowCount(); ++row) {
+    const QModelIndex index = rows.index(row, 0);
+    const QRect place = view.visualRect(index);
+    if (view.viewMode() == QListView::IconMode) {
+      EXPECT_EQ(place.size(), cell) << where << " row " << row;
+      // The name wrapped in the cell's width, as the plain delegate lays it.
+      QStyleOptionViewItem option;
+      option.initFrom(&view);
+      option.font = view.font();
+      option.decorationSize = view.iconSize();
+      option.decorationPosition = QStyleOptionViewItem::Top;
+      option.displayAlignment = Qt::AlignCenter;
+      option.features = QStyleOptionViewItem::WrapText;
+      option.rect = QRect(QPoint(), cell);
+      const QSize natural = QStyledItemDelegate().sizeHint(option, index);
+      EXPECT_LE(natural.height(), place.height())
+          << where << ": " << index.data().toString().toStdString();
+    } else {
+      EXPECT_EQ(place.width(), cell.width()) << where << " row " << row;
+    }
+  }
+}
+
+TEST_F(DeskTest, IconViewsShowWholeNamesInEitherSortAndAfterARestart) {
+  gui::CategoryTreeWidget& tree = treeWidget();
+  tree.expandItem(tree.itemOf(&nodeNamed("Tax Returns")));
+  settle();
+  clickCategory("2024");
+  QListView& view = listWidget().listView();
+  for (enumListViewSort sort : {sortAscending, SortDescending}) {
+    quillbox().changeDocListViewSort(sort);
+    for (enumListViewViews shown : {viewIcons, viewSmallIcons}) {
+      quillbox().changeDocListViewView(shown);
+      settle();
+      expectRowsFillTheirCells(view,
+                               "sort " + std::to_string(sort) + " view " + std::to_string(shown));
+    }
+  }
+  quillbox().changeDocListViewView(viewIcons);
+  ASSERT_TRUE(window_->close());
+  ASSERT_TRUE(window_->openDatabase(QString::fromStdString(folder_.file("firm.db"))));
+  ASSERT_TRUE(window_->showClient(true, 2));  // the bakery again
+  settle();
+  EXPECT_EQ(quillbox().ListViewSort(), SortDescending);
+  EXPECT_EQ(quillbox().ListViewViews(), viewIcons);
+  gui::CategoryTreeWidget& reopened = treeWidget();
+  reopened.expandItem(reopened.itemOf(&nodeNamed("Tax Returns")));
+  settle();
+  clickCategory("2024");
+  EXPECT_EQ(quillbox().lvDocuments().ListItems()(1).Text(), "Notice of Assessment 2024");
+  expectRowsFillTheirCells(listWidget().listView(), "after the restart");
+  screenshot("client-documents-icons-descending");
+}
+
+TEST_F(DeskTest, PdfRowsShowThePdfIconAndTheFillShowsTheBusyPointer) {
   std::vector<int16_t> pointers;
   int32_t watch = screen().addObserver([&](int16_t pointer) {
     pointers.push_back(QApplication::overrideCursor() ? 11 : 0);
@@ -147,8 +209,9 @@ TEST_F(DeskTest, PdfRowsShowTheThemeIconAndTheFillShowsTheBusyPointer) {
     const QIcon icon =
         qvariant_cast<QIcon>(listWidget().itemModel().index(i - 1, 0).data(Qt::DecorationRole));
     EXPECT_FALSE(icon.isNull());
-    // From the desktop's theme, not the drawn page.
-    EXPECT_FALSE(icon.name().isEmpty());
+    // The PDF icon (the theme's or the shipped one), not the drawn page.
+    EXPECT_NE(icon.cacheKey(), gui::themeIcon("text-x-generic").cacheKey());
+    EXPECT_NE(icon.cacheKey(), gui::drawnPageIcon().cacheKey());
     EXPECT_FALSE(icon.pixmap(32).isNull());
   }
 }
@@ -161,7 +224,7 @@ TEST_F(DeskTest, NavigationButtonsMoveThroughTheFirmsClients) {
   EXPECT_FALSE(next.icon().isNull());
   click(next, next.rect().center());
   ASSERT_EQ(window_->currentClient(), start + 1);
-  const desk::Client& shown = window_->roster().at(start + 1);
+  const hosts::Client& shown = window_->roster().at(start + 1);
   EXPECT_EQ(quillbox().lblClientName().Caption(), "  " + shown.name);
   expectListShowsModel(listWidget());
 

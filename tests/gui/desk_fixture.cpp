@@ -1,15 +1,24 @@
 #include "tests/gui/desk_fixture.h"
 
 #include <QApplication>
+#include <QDir>
+#include <QElapsedTimer>
 #include <QMouseEvent>
+#include <QSettings>
+#include <QTemporaryDir>
+#include <QThread>
+#include <QWindow>
 #include <cstdlib>
 
 #include "gui/theme_icons.h"
 #include "sample/sample_firm.h"
 
-// The desktop's font library keeps its caches for the life of the process;
-// the leak checker of the sanitizer build is told so.
-extern "C" const char* __lsan_default_suppressions() { return "leak:libfontconfig\n"; }
+// The desktop's font library keeps its caches for the life of the process,
+// and so does the D-Bus library its connection on an X display; the leak
+// checker of the sanitizer build is told so.
+extern "C" const char* __lsan_default_suppressions() {
+  return "leak:libfontconfig\nleak:libdbus-1\n";
+}
 
 namespace qb::test {
 
@@ -25,6 +34,9 @@ void ensureApplication() {
   static int argc = 1;
   static char name[] = "test_gui";
   static char* argv[] = {name, nullptr};
+  // The user's settings go to a folder of the test program's own.
+  static QTemporaryDir settings;
+  QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, settings.path());
   new QApplication(argc, argv);
   gui::ensureIconTheme();
 }
@@ -43,7 +55,7 @@ void DeskTest::SetUp() {
   window_ = std::make_unique<desk::ClientWindow>(options);
   window_->resize(1100, 720);
   window_->show();
-  settle();
+  waitUntilPlaced(*window_);
   ASSERT_NE(window_->component(), nullptr);
 }
 
@@ -51,6 +63,22 @@ void DeskTest::TearDown() { window_.reset(); }
 
 void settle() {
   for (int i = 0; i < 4; ++i) QApplication::processEvents();
+}
+
+void waitUntilPlaced(QWidget& window) {
+  // On a real X server the window manager maps and places the window in its
+  // own time; offscreen it is there at once.
+  QElapsedTimer waited;
+  waited.start();
+  QPoint last(-1, -1);
+  while (waited.elapsed() < 3000) {
+    QApplication::processEvents(QEventLoop::AllEvents, 20);
+    const QPoint place = window.mapToGlobal(QPoint(0, 0));
+    if (window.windowHandle() && window.windowHandle()->isExposed() && place == last) break;
+    last = place;
+    QThread::msleep(20);
+  }
+  settle();
 }
 
 QWidget& DeskTest::widgetOf(const Control& control) {
@@ -101,6 +129,15 @@ void DeskTest::screenshot(const std::string& name) {
   const char* dir = std::getenv("QB_SCREENSHOT_DIR");
   const std::string path = (dir ? std::string(dir) : folder_.path().string()) + "/" + name + ".png";
   EXPECT_TRUE(window_->saveScreenshot(QString::fromStdString(path))) << path;
+}
+
+void screenshotOf(QWidget& widget, const std::string& name) {
+  const char* dir = std::getenv("QB_SCREENSHOT_DIR");
+  if (dir == nullptr) return;
+  settle();
+  QDir().mkpath(dir);
+  const std::string path = std::string(dir) + "/" + name + ".png";
+  EXPECT_TRUE(widget.grab().save(QString::fromStdString(path), "PNG")) << path;
 }
 
 }  // namespace qb::test

@@ -23,9 +23,13 @@ namespace qb::test {
 void ensureApplication();
 // Lets posted events (layout, paints) run.
 void settle();
+// Waits until a window just shown is on the screen where it stays.
+void waitUntilPlaced(QWidget& window);
 // One mouse event of type at a point of target.
 void mouse(QWidget& target, QEvent::Type type, const QPoint& at, Qt::MouseButton button,
            Qt::MouseButtons held);
+// Saves a picture of a widget (a dialog, say) under $QB_SCREENSHOT_DIR.
+void screenshotOf(QWidget& widget, const std::string& name);
 // A press and a release of button at a point of target, then settle().
 void click(QWidget& target, const QPoint& at, Qt::MouseButton button = Qt::LeftButton);
 

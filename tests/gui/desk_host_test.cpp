@@ -4,6 +4,8 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QKeyEvent>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QStatusBar>
 #include <QTimer>
@@ -29,7 +31,7 @@ std::string bytesOf(const std::string& path) {
   return std::string(std::istreambuf_iterator<char>(in), {});
 }
 
-std::vector<std::string> names(const desk::ClientRoster& roster, int from, int to) {
+std::vector<std::string> names(const hosts::ClientRoster& roster, int from, int to) {
   std::vector<std::string> found;
   for (int i = from; i < to; ++i) found.push_back(roster.at(i).name);
   return found;
@@ -38,7 +40,7 @@ std::vector<std::string> names(const desk::ClientRoster& roster, int from, int t
 }  // namespace
 
 TEST_F(DeskTest, RosterHoldsCompaniesThenContactsByName) {
-  const desk::ClientRoster& roster = window_->roster();
+  const hosts::ClientRoster& roster = window_->roster();
   ASSERT_EQ(roster.size(), 16 + 30);  // the firm and its five users are not clients
   EXPECT_EQ(names(roster, 0, 3),
             (std::vector<std::string>{"Bluenose Marine Services Ltd.", "Byward Market Books",
@@ -65,6 +67,30 @@ TEST_F(DeskTest, RosterHoldsCompaniesThenContactsByName) {
   EXPECT_EQ(picker.picked(), roster.find(true, 12));  // Maple Leaf Bakery - Orléans comes first
   picker.filter("no such client");
   EXPECT_EQ(picker.picked(), -1);
+}
+
+TEST_F(DeskTest, FindClientsArrowKeysGoFromTheFilterIntoTheList) {
+  const hosts::ClientRoster& roster = window_->roster();
+  desk::ClientPickerDialog picker(roster, roster.find(true, 3), nullptr);
+  picker.show();
+  waitUntilPlaced(picker);
+  auto press = [](QWidget& target, int key) {
+    QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier);
+    QApplication::sendEvent(&target, &event);
+    settle();
+  };
+  picker.search().setText("bakery");
+  ASSERT_EQ(picker.focusWidget(), &picker.search());
+  // Down in the filter box: into the list, on the first client shown.
+  press(picker.search(), Qt::Key_Down);
+  EXPECT_EQ(picker.focusWidget(), &picker.list());
+  EXPECT_EQ(picker.picked(), roster.find(true, 12));  // Maple Leaf Bakery - Orléans
+  EXPECT_EQ(picker.search().text(), "bakery");
+  screenshotOf(picker, "find-client");
+  // Down again in the list: the next client shown.
+  press(picker.list(), Qt::Key_Down);
+  EXPECT_EQ(picker.picked(), roster.find(true, 2));  // Maple Leaf Bakery Ltd.
+  picker.close();
 }
 
 TEST_F(DeskTest, ClosingKeepsTheUsersViewAndABadDatabaseLeavesTheWindowEmpty) {

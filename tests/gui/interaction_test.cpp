@@ -2,8 +2,10 @@
 // pop-up menus through the menu service, a choice runs the entry's command;
 // dragging the splitter bar moves the divider.
 
+#include <QCursor>
 #include <QMenu>
 
+#include "gui/popup_placement.h"
 #include "gui/qt_platform.h"
 #include "gui/twips.h"
 #include "services/controls/platform.h"
@@ -18,11 +20,13 @@ struct MenuRecord {
   std::vector<std::string> menus;       // the menus' model names, in order
   std::vector<std::string> firstTexts;  // the first entry's text of each
   std::string choose;                   // the name of the entry to choose, "" for none
+  std::vector<QRect> places;            // where each menu opened, on the screen
 };
 
 void recordMenus(gui::QtPlatform& platform, MenuRecord& record) {
-  platform.setMenuRunner([&record](gui::PopupMenu& menu, const QPoint&) -> QAction* {
+  platform.setMenuRunner([&record](gui::PopupMenu& menu, const QPoint& at) -> QAction* {
     record.menus.push_back(menu.model().Name());
+    record.places.emplace_back(at, menu.menu().sizeHint());
     record.firstTexts.push_back(menu.menu().actions().value(0)->text().toStdString());
     return record.choose.empty() ? nullptr : menu.actionNamed(record.choose);
   });
@@ -76,6 +80,37 @@ TEST_F(DeskTest, RightClicksOpenTheComponentsMenus) {
   EXPECT_EQ(record.menus.back(), "subMnuDocTreeViewRightClick");
   // The component's window got its message before every menu.
   EXPECT_EQ(sentMessages().size(), record.menus.size());
+}
+
+TEST(PopupPlacement, MenusStayOnTheWindowAndTheScreen) {
+  const QRect screen(0, 0, 1600, 1200);
+  const QRect window(100, 100, 800, 600);
+  const QSize menu(200, 300);
+  // Right-aligned at the point, or left-aligned.
+  EXPECT_EQ(gui::popupPosition({500, 200}, menu, true, window, screen), QPoint(300, 200));
+  EXPECT_EQ(gui::popupPosition({500, 200}, menu, false, window, screen), QPoint(500, 200));
+  // Near the window's left edge a right-aligned menu opens to the right of
+  // the point; near its right edge a left-aligned one to the left.
+  EXPECT_EQ(gui::popupPosition({150, 200}, menu, true, window, screen), QPoint(150, 200));
+  EXPECT_EQ(gui::popupPosition({850, 200}, menu, false, window, screen), QPoint(650, 200));
+  // Near the screen's bottom it opens upwards; it never leaves the screen.
+  EXPECT_EQ(gui::popupPosition({500, 1100}, menu, true, window, screen), QPoint(300, 800));
+  EXPECT_EQ(gui::popupPosition({1590, 5}, menu, false, QRect(1500, 0, 100, 100), screen),
+            QPoint(1390, 5));
+  EXPECT_EQ(gui::popupPosition({10, 100}, QSize(200, 1500), true, QRect(), screen), QPoint(10, 0));
+}
+
+TEST_F(DeskTest, APopUpMenuNearTheWindowsLeftEdgeStaysOnTheWindow) {
+  MenuRecord record;
+  recordMenus(window_->platform(), record);
+  gui::CategoryTreeWidget& tree = treeWidget();
+  const QPoint nearTheEdge(4, tree.viewport()->height() - 5);
+  QCursor::setPos(tree.viewport()->mapToGlobal(nearTheEdge));
+  click(*tree.viewport(), nearTheEdge, Qt::RightButton);
+  ASSERT_EQ(record.places.size(), 1u);
+  const QRect shown(window_->mapToGlobal(QPoint(0, 0)), window_->size());
+  EXPECT_GE(record.places[0].left(), shown.left());
+  EXPECT_LE(record.places[0].right(), shown.right());
 }
 
 TEST_F(DeskTest, DraggingTheSplitterBarMovesTheDivider) {

@@ -102,7 +102,7 @@ TEST_F(DeskTest, TheMergeFieldsWindowListsTheClientsAndTheFirmsFields) {
 }
 
 TEST_F(DeskTest, AContactsMergeFieldsHaveNoCompanySection) {
-  desk::Client contact;
+  hosts::Client contact;
   contact.isCompany = false;
   contact.id = window_->roster().at(window_->roster().size() - 1).id;
   contact.name = "A contact";

@@ -1,8 +1,9 @@
 #pragma once
-// ClientRoster: the firm's clients as the host's client screen walks them
-// with First, Previous, Next and Last: the client companies, then the
-// contacts, each group ordered by name. The firm's own company and the
-// firm's users are not clients.
+// ClientRoster: the firm's clients as the hosts list them: the client screen
+// walks them with First, Previous, Next and Last, and `quillbox clients`
+// prints them. The client companies, then the contacts, each group ordered
+// by name, ignoring case. The firm's own company and the firm's users are
+// not clients.
 
 #include <cstdint>
 #include <string>
@@ -12,7 +13,7 @@ namespace qb {
 class DatabaseReference;
 }
 
-namespace qb::desk {
+namespace qb::hosts {
 
 struct Client {
   bool isCompany = true;
@@ -41,4 +42,4 @@ class ClientRoster {
   std::vector<int32_t> companiesWithDocuments_;
 };
 
-}  // namespace qb::desk
+}  // namespace qb::hosts

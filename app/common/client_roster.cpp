@@ -1,15 +1,15 @@
-#include "app/desk/client_roster.h"
+#include "app/common/client_roster.h"
 
-#include <QString>
 #include <algorithm>
 #include <functional>
 #include <set>
 
 #include "data/mod_database_functions.h"
 #include "services/runtime/conversions.h"
+#include "services/runtime/strings.h"
 #include "services/store/database_reference.h"
 
-namespace qb::desk {
+namespace qb::hosts {
 
 namespace {
 
@@ -36,10 +36,8 @@ int32_t idField(DatabaseReference& store, RecordsetHandle handle, const char* fi
 }
 
 void sortByName(std::vector<Client>::iterator first, std::vector<Client>::iterator last) {
-  std::stable_sort(first, last, [](const Client& a, const Client& b) {
-    return QString::fromStdString(a.name).compare(QString::fromStdString(b.name),
-                                                  Qt::CaseInsensitive) < 0;
-  });
+  std::stable_sort(first, last,
+                   [](const Client& a, const Client& b) { return LCase(a.name) < LCase(b.name); });
 }
 
 }  // namespace
@@ -99,4 +97,4 @@ int ClientRoster::firstWithDocuments() const {
   return empty() ? -1 : 0;
 }
 
-}  // namespace qb::desk
+}  // namespace qb::hosts
