@@ -145,6 +145,8 @@ void nvDocumentQuillbox::wireEvents() {
   tvClientDocumentation_.LostFocus = [this] { tvClientDocumentation_LostFocus(); };
   lvDocuments_.ColumnClick = [this](ColumnHeader& column) { lvDocuments_ColumnClick(column); };
   lvDocuments_.Click = [this] { lvDocuments_Click(); };
+  lvDocuments_.DblClick = [this] { lvDocuments_DblClick(); };
+  lvDocuments_.KeyUp = [this](int16_t key, int16_t shift) { lvDocuments_KeyUp(key, shift); };
   lvDocuments_.ItemClick = [this](ListItem& item) { lvDocuments_ItemClick(item); };
   lvDocuments_.MouseUp = [this](int16_t button, int16_t shift, float x, float y) {
     lvDocuments_MouseUp(button, shift, x, y);

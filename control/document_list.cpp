@@ -5,9 +5,11 @@
 #include <string>
 
 #include "control/nv_document_quillbox.h"
+#include "control/row_tags.h"
 #include "data/mod_database_functions.h"
 #include "services/controls/platform.h"
 #include "services/errors/procedure.h"
+#include "services/files/file_facts_service.h"
 #include "services/host/locale_reference.h"
 #include "services/host/message_object.h"
 #include "services/host/module_state.h"
@@ -16,6 +18,7 @@
 #include "services/runtime/conversions.h"
 #include "services/runtime/format.h"
 #include "services/runtime/strings.h"
+#include "services/util/file_size_text.h"
 #include "services/util/file_utilities_class.h"
 #include "services/util/general_utilities_class.h"
 
@@ -23,27 +26,20 @@ namespace qb {
 
 namespace {
 
-constexpr const char* kDocumentTag = "Document:";
-constexpr const char* kCategoryKey = "Category:";
-constexpr const char* kTagPathMark = "*/";
+using namespace rowTags;
+
 constexpr const char* kFileDateFormat = "m/d/yy  h:nn am/pm";
-constexpr double kBytesPerMegabyte = 1048576.0;
 
 // "<size in megabytes, two decimals> Mb".
-std::string sizeText(int32_t bytes) {
-  return numberToText(Round(bytes / kBytesPerMegabyte, 2)) + " Mb";
-}
-
-// The id at the end of a node key "Category:<id>".
-int32_t categoryIDFromKey(const std::string& key) {
-  return CLng(Variant(Right(key, Len(key) - Len(kCategoryKey))));
-}
+std::string sizeText(int32_t bytes) { return megabytesText(bytes) + " Mb"; }
 
 }  // namespace
 
 void nvDocumentQuillbox::setupDocumentsDisplay() {
   Procedure proc("Orvanta.exe-nvDocumentQuillbox-setupDocumentsDisplay");
   ModuleState& module = moduleState();
+  // One question per file for the whole fill; a dead share is waited on once.
+  FileFactsOperation fileQueries;
   proc.step([&] { screen().setMousePointer(11); });
   proc.step([&] {
     std::string name =
@@ -105,10 +101,7 @@ void nvDocumentQuillbox::setupDocumentsDisplay() {
           };
           proc.step([&] { row = &lvDocuments_.ListItems().Add(); });
           proc.step([&] { theRow().setText(objectOf(document).documentName()); });
-          proc.step([&] {
-            theRow().setTag(kDocumentTag + std::to_string(objectOf(document).documentID()) +
-                            kTagPathMark + path);
-          });
+          proc.step([&] { theRow().setTag(documentTag(objectOf(document).documentID(), path)); });
           // Size and dates come from the file itself, read afresh for each row.
           auto fileDate = [&](int16_t kind) {
             return Format(objectOf(module.fileUtilities).getFileDate(path, kind, true),
@@ -211,6 +204,24 @@ void nvDocumentQuillbox::lvDocuments_ColumnClick(ColumnHeader& column) {
     }
   });
   proc.step([&] { lvDocuments_.setSorted(true); });
+}
+
+void nvDocumentQuillbox::lvDocuments_KeyUp(int16_t key, int16_t) {
+  Procedure proc("Orvanta.exe-nvDocumentQuillbox-lvDocuments_KeyUp");
+  constexpr int16_t kDelete = 46;
+  constexpr int16_t kEnter = 13;
+  proc.step([&] {
+    if (key == kDelete) {
+      deleteSelectedDocuments();
+    } else if (key == kEnter) {
+      openSelectedDocumentsFiles();
+    }
+  });
+}
+
+void nvDocumentQuillbox::lvDocuments_DblClick() {
+  Procedure proc("Orvanta.exe-nvDocumentQuillbox-lvDocuments_DblClick");
+  proc.step([&] { openSelectedDocumentsFiles(); });
 }
 
 void nvDocumentQuillbox::lvDocuments_Click() {

@@ -91,7 +91,8 @@ void nvDocumentQuillbox::buildMenus() {
   subMnuDocTreeViewRightClick_ = &treeMenu;
   subMnuDocTreeViewNodeRightClick_ = &nodeMenu;
 
-  // The view, arrangement, sort and refresh items of both list menus.
+  // The items of both list menus: the documents, the view, arrangement, sort
+  // and refresh.
   struct Command {
     const char* item;
     std::function<void()> run;
@@ -108,12 +109,19 @@ void nvDocumentQuillbox::buildMenus() {
       {"mnuSortAscending", [this] { changeDocListViewSort(sortAscending); }},
       {"mnuSortDescending", [this] { changeDocListViewSort(SortDescending); }},
       {"mnuRefresh", [this] { refreshDocListView(); }},
+      {"mnuAddFiles", [this] { addDocumentFiles(); }},
+      {"mnuRemoveFiles", [this] { deleteSelectedDocuments(); }},
+      {"mnuDocProperties", [this] { openDocumentProperties(); }},
   };
   for (const Command& command : commands) {
     for (const std::string& name : {std::string(command.item), std::string(command.item) + "2"}) {
       menus_.find(name)->Click = [this, name, run = command.run] { menuCommand(name, run); };
     }
   }
+  // Opening is on the row menu only.
+  menus_.find("mnuOpenFile")->Click = [this] {
+    menuCommand("mnuOpenFile", [this] { openSelectedDocumentsFiles(); });
+  };
 }
 
 void nvDocumentQuillbox::menuCommand(const std::string& itemName,

@@ -37,10 +37,25 @@ void nvDocumentQuillbox::cmdClientNav_Click(int16_t index) {
 
 void nvDocumentQuillbox::cmdDocManager_Click(int16_t index) {
   Procedure proc("Orvanta.exe-nvDocumentQuillbox-cmdDocManager_Click");
-  // The buttons run the link and category commands (add, open, delete and
-  // find shortcuts, add categories); with none of those in the component, a
-  // click traces only.
-  (void)index;
+  // No test of the store here, unlike the navigation buttons.
+  proc.step([&] {
+    switch (index) {
+      case 0:
+        addDocumentFiles();
+        break;
+      case 1:
+        openSelectedDocumentsFiles();
+        break;
+      case 2:
+        deleteSelectedDocuments();
+        break;
+      case 3:
+        findDocumentFiles();
+        break;
+      default:
+        break;
+    }
+  });
 }
 
 }  // namespace qb

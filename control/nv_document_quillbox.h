@@ -37,6 +37,7 @@
 #include "services/controls/progress_bar.h"
 #include "services/controls/shade_line.h"
 #include "services/controls/tree_view.h"
+#include "services/errors/object_required.h"
 #include "services/errors/runtime_error.h"
 #include "splitter/splitter.h"
 
@@ -185,6 +186,40 @@ class nvDocumentQuillbox : public ContainerControl {
   // it holds neither "*/" nor "Document:"; "" for "Document:" without "*/".
   std::string getDocPathFromTag(const std::string& tag);
 
+  // ---- Adding, opening and finding documents -------------------------------
+  // Every Boolean command returns False, also on success: the host must not
+  // read success from it.
+
+  // Links the files the user picks in the desktop's file dialog (several at
+  // once, starting in the data folder's "Data" folder) into the selected
+  // category, then rebuilds the list. A folder or a path that is neither file
+  // nor folder is refused with a message and the batch goes on. Cancel
+  // leaves the list as it was.
+  bool addDocumentFiles();
+  // Opens the selected rows' files, from the last row to the first: a file
+  // in use asks first; a missing file opens the properties dialog on its
+  // missing-file page; a merge document goes to the host (openDocMerge with
+  // docType 7); any other file opens in the desktop's default application.
+  bool openSelectedDocumentsFiles();
+
+  // ---- Document commands ---------------------------------------------------
+
+  // The properties dialog for the focused row; on return the row shows the
+  // link's new name, path and file facts (its sub-items added in front).
+  bool openDocumentProperties();
+  // Removes the selected rows' links, last row first, without a question;
+  // the rows leave the list without a refresh. The files stay.
+  bool deleteSelectedDocuments();
+  // Shows the document's category (rebuilding the list when it is another
+  // one) and selects the first row with the document's display name.
+  bool goToDocument(int32_t& documentID);
+
+  // ---- Category commands ---------------------------------------------------
+
+  // The id of the selected node's category; -1 when no node is selected or
+  // its key names no category.
+  int32_t getCurrentlySelectedCategoryID();
+
   // ---- View settings -------------------------------------------------------
 
   // Sets ListViewViews and the list's view (details restores the saved
@@ -215,6 +250,8 @@ class nvDocumentQuillbox : public ContainerControl {
   void tvClientDocumentation_NodeClick(Node& node);
   void tvClientDocumentation_LostFocus();
   void lvDocuments_ColumnClick(ColumnHeader& column);
+  void lvDocuments_KeyUp(int16_t key, int16_t shift);
+  void lvDocuments_DblClick();
   void lvDocuments_Click();
   void lvDocuments_ItemClick(ListItem& item);
   void lvDocuments_MouseUp(int16_t button, int16_t shift, float x, float y);
@@ -286,10 +323,16 @@ class nvDocumentQuillbox : public ContainerControl {
   // does (91, object variable not set).
   template <class T>
   static T& objectOf(const std::shared_ptr<T>& object) {
-    if (!object)
-      throw RuntimeError(err::kObjectRequired, "Object variable or With block variable not set");
-    return *object;
+    return qb::objectOf(object);
   }
+
+  // The search dialog and what follows from its result (cmdDocManager(3)).
+  bool findDocumentFiles();
+  // The step that links one file into the selected category, shared by the
+  // file dialog and file drops: a file gets a link; a folder, or a path that
+  // is neither, is refused with a message between pointer steps (0, the
+  // message, 11), and the caller goes on with its next item.
+  void linkDocumentFile(const std::string& path);
 
   // View settings.
   void getDocQuillboxListViewSettings();

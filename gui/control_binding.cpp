@@ -107,8 +107,9 @@ void ControlBinding::changed(ControlChange change) {
 }
 
 void ControlBinding::applyGeometry() {
-  // The top control of a form is placed by its host.
-  if (control_.Container() == nullptr) return;
+  // The top control of a form is placed by its host, a dialog's controls by
+  // its layout.
+  if (control_.Container() == nullptr || placedByLayout_) return;
   const float inset = borderInset(control_);
   const int left = toPixels(control_.Left() + inset);
   const int top = toPixels(control_.Top() + inset);

@@ -36,6 +36,9 @@ class ControlBinding : public QObject {
 
   // Applies every property of the model, as after a change of each kind.
   void applyAll();
+  // The widget stands in a Qt layout (a dialog's): the model's geometry is
+  // not applied to it.
+  void placeByLayout() { placedByLayout_ = true; }
 
   // Passes mouse, key and focus input that reaches source (the widget or a
   // part of it) on to the model. With raisesClick a press and a release on
@@ -59,6 +62,7 @@ class ControlBinding : public QObject {
   int32_t observerId_ = 0;
   int32_t zOrderSeen_ = 0;
   bool raisesClick_ = false;
+  bool placedByLayout_ = false;
   bool pressed_ = false;
 };
 

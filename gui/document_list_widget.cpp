@@ -144,7 +144,9 @@ void DocumentListWidget::applyChange(ControlChange change) {
       model_.picturesChanged();
       break;
     case ControlChange::Selection:
-      applySelection();
+      // While the user's own selection goes to the model, the model's
+      // notices must not send it back half done.
+      if (!syncing_) applySelection();
       break;
     case ControlChange::View:
       applyView();

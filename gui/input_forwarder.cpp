@@ -7,6 +7,7 @@
 #include "gui/input_codes.h"
 #include "gui/twips.h"
 #include "services/controls/control.h"
+#include "services/controls/form.h"
 
 namespace qb::gui {
 
@@ -41,7 +42,7 @@ bool InputForwarder::keyDown(const QKeyEvent& event) {
   const QString text = event.text();
   if (text.size() != 1 || text[0].unicode() >= 128) return true;
   int16_t keyAscii = static_cast<int16_t>(text[0].unicode());
-  control_.KeyPress.raise(keyAscii);
+  raiseKeyPress(control_, keyAscii);
   return keyAscii != 0;
 }
 

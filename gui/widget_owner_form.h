@@ -6,6 +6,8 @@
 #include <QPointer>
 #include <QWidget>
 
+#include "gui/form_dialogs.h"
+#include "services/controls/form.h"
 #include "services/controls/platform.h"
 #include "services/host/locale_reference.h"
 
@@ -24,10 +26,12 @@ class WidgetOwnerForm : public OwnerForm {
   int64_t hWnd_;
 };
 
-// The widget of an owner form, nullptr when the owner is not a widget's.
+// The widget of an owner form: the host's window, or the dialog that shows a
+// form; nullptr when the owner has none.
 inline QWidget* widgetOf(OwnerForm* owner) {
-  auto* form = dynamic_cast<WidgetOwnerForm*>(owner);
-  return form ? form->widget() : nullptr;
+  if (auto* form = dynamic_cast<WidgetOwnerForm*>(owner)) return form->widget();
+  if (auto* dialogForm = dynamic_cast<Form*>(owner)) return dialogOf(dialogForm);
+  return nullptr;
 }
 
 }  // namespace qb::gui

@@ -7,7 +7,7 @@ packages=(
   cmake g++ make pkg-config
   libsqlite3-dev sqlite3
   libpugixml-dev
-  qt6-base-dev qt6-base-dev-tools libgl-dev
+  qt6-base-dev qt6-base-dev-tools libgl-dev libqt6dbus6
   libgtest-dev googletest
   libbenchmark-dev
   unrtf
@@ -21,6 +21,8 @@ packages=(
   xvfb openbox
   # The Debian package: its dependencies, and a check of its desktop entry.
   dpkg-dev file desktop-file-utils
+  # The file manager's D-Bus interface, tested on a private bus.
+  dbus-daemon
 )
 
 missing=()

@@ -17,6 +17,7 @@
 #include <iostream>
 
 #include "app/desk/client_picker_dialog.h"
+#include "app/desk/desktop_services.h"
 #include "app/desk/dialog_error_object.h"
 #include "app/desk/merge_fields_window.h"
 #include "app/desk/window_state.h"
@@ -33,6 +34,7 @@
 #include "services/host/module_state.h"
 #include "services/host/working_folder.h"
 #include "services/store/sqlite_database.h"
+#include "services/util/standard_form_helper.h"
 
 namespace qb::desk {
 
@@ -64,6 +66,7 @@ ClientWindow::ClientWindow(const DeskOptions& options, QWidget* parent)
     errors_->setUnattended(&std::cerr);
     messages_->setUnattended(&std::cerr);
   }
+  desktop_ = std::make_unique<DesktopServices>(this, options_.unattended ? &std::cerr : nullptr);
   setWindowTitle("Client Documents");
   setWindowIcon(gui::programIcon());
   auto* central = new QWidget(this);
@@ -112,6 +115,8 @@ void ClientWindow::buildMenus() {
   client->addSeparator();
   client->addAction(gui::themeIcon("edit-find"), "F&ind Client…", QKeySequence::Find, this,
                     [this] { findClient(); });
+
+  buildDocumentMenu();
 
   QMenu* view = menuBar()->addMenu("&View");
   views_ = new QActionGroup(this);
@@ -164,6 +169,7 @@ bool ClientWindow::hostDatabase(const QString& path, QString& reason) {
   locale_->userID = options_.user;
   locale_->productLabel = kProduct;
   locale_->ownerForm = owner_.get();
+  locale_->formHelper = desktop_->formHelper();
   hostComponent();
   statusBar()->showMessage(QDir::toNativeSeparators(path), 4000);
   rememberDatabase(path);
@@ -232,8 +238,16 @@ void ClientWindow::wireComponentEvents() {
   quillbox.moveNext = [this] { moveTo(current_ + 1); };
   quillbox.moveLast = [this] { moveTo(roster_.size() - 1); };
   quillbox.findClient = [this] { findClient(); };
-  quillbox.changeCompany = [this](int32_t& companyID, int32_t&) { showClient(true, companyID); };
-  quillbox.changeContact = [this](int32_t& contactID, int32_t&) { showClient(false, contactID); };
+  // The search found a document of another client: show that client, then
+  // the document.
+  quillbox.changeCompany = [this](int32_t& companyID, int32_t& documentID) {
+    int32_t document = documentID;
+    if (showClient(true, companyID)) component_->goToDocument(document);
+  };
+  quillbox.changeContact = [this](int32_t& contactID, int32_t& documentID) {
+    int32_t document = documentID;
+    if (showClient(false, contactID)) component_->goToDocument(document);
+  };
   quillbox.openDocMerge = [this](int16_t&, std::string& docPath) {
     statusBar()->showMessage("Merge document: " + QString::fromStdString(docPath), 8000);
   };

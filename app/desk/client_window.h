@@ -34,6 +34,7 @@ class WidgetOwnerForm;
 
 namespace qb::desk {
 
+class DesktopServices;
 class DialogErrorObject;
 
 class ClientWindow : public QMainWindow {
@@ -66,6 +67,8 @@ class ClientWindow : public QMainWindow {
   gui::UserControlHost* componentHost() const { return host_; }
   gui::QtPlatform& platform() const { return *platform_; }
   DialogErrorObject& errors() const { return *errors_; }
+  // The dialogs, file dialog and shell the component gets from the desktop.
+  DesktopServices& desktop() const { return *desktop_; }
   gui::MessageBoxObject& messages() const { return *messages_; }
 
   // Lays the window out, renders it and writes it to a PNG file. False when
@@ -81,6 +84,7 @@ class ClientWindow : public QMainWindow {
   // window is then as it was).
   bool hostDatabase(const QString& path, QString& reason);
   void offerAnotherDatabase(const QString& path, const QString& reason);
+  void buildDocumentMenu();
   void hostComponent();
   void releaseComponent();
   void wireComponentEvents();
@@ -98,6 +102,7 @@ class ClientWindow : public QMainWindow {
   std::shared_ptr<FixedLocale> locale_;
   std::unique_ptr<gui::WidgetOwnerForm> owner_;
   std::unique_ptr<gui::QtPlatform> platform_;
+  std::unique_ptr<DesktopServices> desktop_;
   std::unique_ptr<nvDocumentQuillbox> component_;
   gui::UserControlHost* host_ = nullptr;
   int32_t listObserver_ = 0;

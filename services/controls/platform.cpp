@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "services/controls/form.h"
 #include "services/controls/menu_item.h"
 
 namespace qb {
@@ -16,6 +17,8 @@ struct PlatformState {
   std::vector<WindowMessage> messages;
   PopupMenuHandler popupHandler;
   std::vector<PopupRequest> popups;
+  FormService formService;
+  std::vector<std::string> modalForms;
   int64_t nextHandle = 0x10000;
   Control* focused = nullptr;
   bool userMode = true;
@@ -84,6 +87,19 @@ void installPopupMenuHandler(PopupMenuHandler handler) {
   state().popupHandler = std::move(handler);
 }
 const std::vector<PopupRequest>& popupRequests() { return state().popups; }
+
+void installFormService(FormService service) { state().formService = std::move(service); }
+
+void runModalForm(Form& form, OwnerForm* owner) {
+  auto& s = state();
+  s.modalForms.push_back(form.Name());
+  if (s.formService) {
+    auto service = s.formService;  // a form may show another one
+    service(form, owner);
+  }
+}
+
+const std::vector<std::string>& modalForms() { return state().modalForms; }
 
 int64_t newWindowHandle() { return state().nextHandle += 4; }
 

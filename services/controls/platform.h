@@ -15,7 +15,9 @@
 namespace qb {
 
 class Control;
+class Form;
 class MenuItem;
+class OwnerForm;
 
 // The screen: its mouse pointer (0 default, 11 busy), observable.
 class Screen {
@@ -80,6 +82,15 @@ void PopupMenu(MenuItem& menu, int32_t flags = 0, std::optional<float> x = std::
 void installPopupMenuHandler(PopupMenuHandler handler);
 const std::vector<PopupRequest>& popupRequests();
 
+// Modal forms: the installed service shows the form and returns when the
+// user is done with it (the GUI runs a dialog until the form hides; a test
+// acts as the user). Without a service runModalForm returns at once.
+using FormService = std::function<void(Form& form, OwnerForm* owner)>;
+void installFormService(FormService service);
+void runModalForm(Form& form, OwnerForm* owner);
+// Every form shown modally, by name, in order (for tests).
+const std::vector<std::string>& modalForms();
+
 // A fresh window handle, distinct from all others given out on this thread.
 int64_t newWindowHandle();
 
@@ -92,7 +103,7 @@ bool ambientUserMode();
 void setAmbientUserMode(bool userMode);
 
 // Puts the platform of this thread back to its start state: pointer 0, no
-// pump, router or handler, nothing recorded, no focus, run mode True. Window
+// pump, router, handler or form service, nothing recorded, no focus, run mode True. Window
 // handles keep counting, so they stay distinct.
 void resetPlatform();
 

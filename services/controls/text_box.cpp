@@ -1,5 +1,6 @@
 #include "services/controls/text_box.h"
 
+#include "services/controls/form.h"
 #include "services/runtime/strings.h"
 
 namespace qb {
@@ -7,8 +8,19 @@ namespace qb {
 void TextBox::setText(std::string value) {
   if (value == text_) return;
   text_ = std::move(value);
+  selection_.atEnd(text_);
   notify(ControlChange::Text);
   Change.raise();
+}
+
+void TextBox::setSelStart(int32_t value) {
+  selection_.place(value, text_);
+  notify(ControlChange::Selection);
+}
+
+void TextBox::setSelLength(int32_t value) {
+  selection_.extend(value, text_);
+  notify(ControlChange::Selection);
 }
 
 void TextBox::setLocked(bool value) {
@@ -31,13 +43,26 @@ const std::string& TextBox::typeText(const std::string& typed) {
     i += length;
     if (length == 1) {
       int16_t keyAscii = lead;
-      KeyPress.raise(keyAscii);
+      raiseKeyPress(*this, keyAscii);
       if (keyAscii == 0) continue;
       character = std::string(1, static_cast<char>(keyAscii));
     }
     if (locked_) continue;
-    if (maxLength_ > 0 && Len(text_) >= maxLength_) continue;
-    setText(text_ + character);
+    // The character replaces the selection, at the caret; Backspace takes
+    // the selection or the character before the caret; other control keys
+    // (Enter, Escape, Tab) type nothing into a line.
+    std::string before = qb::Left(text_, selection_.start);
+    std::string after = Mid(text_, selection_.start + selection_.length + 1);
+    if (character == "\b") {
+      if (selection_.length == 0 && !before.empty()) before = qb::Left(before, Len(before) - 1);
+      setText(before + after);
+      selection_.place(Len(before), text_);
+      continue;
+    }
+    if (static_cast<unsigned char>(character[0]) < 32) continue;
+    if (maxLength_ > 0 && Len(before) + Len(after) >= maxLength_) continue;
+    setText(before + character + after);
+    selection_.place(Len(before) + 1, text_);
   }
   return text_;
 }

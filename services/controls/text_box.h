@@ -4,6 +4,7 @@
 // by typeText). KeyPress, KeyUp, GotFocus and LostFocus come from Control.
 
 #include "services/controls/control.h"
+#include "services/controls/text_selection.h"
 
 namespace qb {
 
@@ -16,13 +17,27 @@ class TextBox : public Control {
   void setText(std::string value);
   bool Locked() const { return locked_; }
   void setLocked(bool value);
+  // The selected part of the text: its start (characters before it) and
+  // length. Setting the text puts the caret at its end with nothing selected.
+  int32_t SelStart() const { return selection_.start; }
+  // Places the caret (past the end: at the end; negative: refused with
+  // err::kInvalidProperty); nothing is selected.
+  void setSelStart(int32_t value);
+  int32_t SelLength() const { return selection_.length; }
+  // Selects that many characters from the caret, at most to the end
+  // (negative: refused with err::kInvalidProperty).
+  void setSelLength(int32_t value);
   // 0 means no limit; otherwise typeText keeps at most this many characters.
   int32_t MaxLength() const { return maxLength_; }
   void setMaxLength(int32_t value) { maxLength_ = value; }
 
-  // What a user's typing does: each character goes through KeyPress (which
-  // may change or swallow it; only single-byte characters pass KeyPress, the
-  // others go in as they are), then unless the box is Locked it is appended.
+  // What a user's typing does: each character goes through KeyPress (the
+  // form's first when it previews keys; a handler may change or swallow it;
+  // only single-byte characters pass KeyPress, the others go in as they
+  // are), then unless the box is Locked it replaces the selection at the
+  // caret (the end of the text unless select() put it elsewhere). Backspace
+  // (8) removes the selection or the character before the caret; other
+  // control characters type nothing.
   // Returns the text after typing.
   const std::string& typeText(const std::string& typed);
 
@@ -32,6 +47,7 @@ class TextBox : public Control {
   std::string text_;
   bool locked_ = false;
   int32_t maxLength_ = 0;
+  TextSelection selection_;
 };
 
 }  // namespace qb

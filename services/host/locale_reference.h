@@ -4,7 +4,10 @@
 // form that owns dialogs and messages.
 
 #include <cstdint>
+#include <memory>
 #include <string>
+
+#include "services/host/form_helper.h"
 
 namespace qb {
 
@@ -27,6 +30,8 @@ class LocaleReference {
   virtual std::string getProductLabel() = 0;
   // May be null when the host has no form (a command-line host).
   virtual OwnerForm* getOwnerForm() = 0;
+  // The helper every dialog form uses; null when the host gives none.
+  virtual FormHelper* getFormHelper() { return nullptr; }
 };
 
 // A locale with fixed answers, as the command-line host and tests set it.
@@ -37,12 +42,14 @@ class FixedLocale : public LocaleReference {
   int32_t userID = 1;
   std::string productLabel = "Orvanta";
   OwnerForm* ownerForm = nullptr;
+  std::shared_ptr<FormHelper> formHelper;
 
   int32_t getCountryCode() override { return countryCode; }
   int32_t getProvinceCode() override { return provinceCode; }
   int32_t getCurrentUserID() override { return userID; }
   std::string getProductLabel() override { return productLabel; }
   OwnerForm* getOwnerForm() override { return ownerForm; }
+  FormHelper* getFormHelper() override { return formHelper.get(); }
 };
 
 }  // namespace qb

@@ -3,6 +3,7 @@
 #include <functional>
 
 #include "services/errors/procedure.h"
+#include "services/files/file_facts_service.h"
 #include "services/quillbox/library_store.h"
 
 namespace qb {
@@ -44,10 +45,18 @@ void docQuillboxCategoryClass::loadCategory(bool& loadDocuments, bool& result) {
   if (!result || !loadDocuments) return;
 
   bool started = false;
+  // The files are asked for all at once (side by side on a share), then each
+  // document reads its own answer.
+  FileFactsOperation fileQueries;
   proc.step([&] {
     DatabaseReference& db = database();
     Recordset rs(db, keyedSql(kSelectCategoryDocuments, categoryID_), adLockReadOnly);
     int32_t maximum = db.getRecordCount(rs.handle());
+    std::vector<std::string> paths;
+    if (rs.moveFirst()) {
+      for (; !rs.isEnd(); rs.moveNext()) paths.push_back(rs.text("DocPath"));
+    }
+    fileFacts().prefetch(paths);
     started = true;
     startLoadDocumentProgress.raise(maximum);
     int32_t steps = 0;

@@ -1,10 +1,15 @@
 #pragma once
 // fileUtilitiesClass: the file facts the document list, the document
-// properties dialog and the adding of links read. Files are real files; the
-// facts are read afresh at every call, never cached.
+// properties dialog and the adding of links read, and the path helpers.
+// Files are real files. Every fact comes from this thread's file-facts
+// service (services/files): within one of its operations a file is asked
+// once, and a share that stops answering is waited on for about a second.
 //
 // A file that can't be reached is no failure here: the operations give their
 // "nothing" value (0 bytes, a Null date, False) and accessState tells why.
+//
+// Paths use the platform's separator, "/"; a backslash is an ordinary
+// character of a name.
 
 #include <cstdint>
 #include <string>
@@ -20,6 +25,7 @@ enum class FileAccessState {
   missingFile,    // the folder is there, the file is not
   missingFolder,  // the folder that should hold the file is not there
   accessDenied,   // a folder on the way may not be searched or read
+  unreachable,    // the file system failed or did not answer in time (a dead share)
 };
 
 // The date kinds of getFileDate.
@@ -56,12 +62,13 @@ class fileUtilitiesClass {
   // read-only mark), or can't be reached. The test reads the file's mode, not
   // the caller's rights, so it tells the same for every user.
   bool isFileWritable(const std::string& path) const;
-  // True when another process of this machine holds the file open. Files on
-  // another computer can't be told: they read as not in use.
+  // True when another program holds the file: an office suite's lock file
+  // beside it (which also shows a file held by another workstation on a
+  // share), a lock on it, or a process of this machine that has it open for
+  // writing. See SystemFileFacts.
   bool isFileInUse(const std::string& path) const;
 
-  // The folder path with exactly one ending separator: a backslash when the
-  // path is written with backslashes only, else "/". "" gives "/".
+  // The folder path with exactly one ending separator, "/". "" gives "/".
   std::string addTrailingBackslash(const std::string& folder) const;
   // The extension with its dot, as written in the file name ("Letter.OMD"
   // gives ".OMD"); "" when the name has none. This is the text
@@ -70,7 +77,7 @@ class fileUtilitiesClass {
   // The folder part of a path, without an ending separator; "" when the
   // path has no folder part.
   std::string getFolderFromPath(const std::string& path) const;
-  // The file name part of a path (after the last "/" or "\").
+  // The file name part of a path (after the last "/").
   std::string getFileNameFromPath(const std::string& path) const;
   // An absolute path with "." and ".." resolved and doubled separators
   // removed. Symbolic links stay as the user named them. "" stays "".
@@ -78,10 +85,11 @@ class fileUtilitiesClass {
 
   // This computer's network name; "" when the system does not tell it.
   std::string getComputerName() const;
-  // A special folder of the signed-in user: 5 the documents folder
-  // (XDG_DOCUMENTS_DIR, else ~/Documents when it exists, else the home
-  // folder). Other numbers give the home folder. The window handle is not
-  // used on this platform.
+  // A special folder of the signed-in user: 5 the documents folder by the XDG
+  // rules (XDG_DOCUMENTS_DIR from the environment, else from
+  // $XDG_CONFIG_HOME/user-dirs.dirs, else ~/Documents when it exists, else
+  // the home folder). Other numbers give the home folder. The window handle
+  // is not used on this platform.
   std::string getSpecialFolder(int64_t windowHandle, int32_t folderNumber) const;
 };
 

@@ -1,7 +1,9 @@
 #include "services/util/general_utilities_class.h"
 
+#include "services/controls/combo_box.h"
 #include "services/controls/list_view.h"
 #include "services/controls/tree_view.h"
+#include "services/runtime/strings.h"
 
 namespace qb {
 
@@ -28,5 +30,24 @@ std::string generalUtilitiesClass::formatCaptionText(const std::string& text) co
 }
 
 void generalUtilitiesClass::setListViewListMode(ListView& list) const { list.setView(lvwList); }
+
+int16_t generalUtilitiesClass::comboAutoComplete(ComboBox& combo, int16_t keyAscii) const {
+  constexpr int16_t kBackspace = 8;
+  if (keyAscii < 32 && keyAscii != kBackspace) return keyAscii;
+  std::string typed = Left(combo.Text(), combo.SelStart());
+  if (keyAscii == kBackspace) {
+    if (!typed.empty()) typed = Left(typed, Len(typed) - 1);
+  } else {
+    typed += static_cast<char>(keyAscii);
+  }
+  for (int32_t i = 0; i < combo.ListCount(); ++i) {
+    if (!equalsText(Left(combo.List(i), Len(typed)), typed)) continue;
+    combo.setListIndex(i);
+    combo.setSelStart(Len(typed));
+    combo.setSelLength(Len(combo.Text()) - Len(typed));
+    break;
+  }
+  return 0;
+}
 
 }  // namespace qb

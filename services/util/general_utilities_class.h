@@ -7,6 +7,7 @@
 
 namespace qb {
 
+class ComboBox;
 class ErrorObject;
 class ListView;
 class TreeView;
@@ -28,6 +29,14 @@ class generalUtilitiesClass {
   std::string formatCaptionText(const std::string& text) const;
   // Leaves the list in list mode (View 2); nothing else changes.
   void setListViewListMode(ListView& list) const;
+  // Type-ahead on a combo box, for its KeyPress: the key joins the part typed
+  // so far (the text before the selection) and the first entry that begins
+  // with it, ignoring case, is chosen, with the rest of its text selected.
+  // Backspace takes the last typed character back off. Returns the key left
+  // for the combo: 0 when it was used (also when no entry begins so, which
+  // leaves the choice as it was); other control keys (Enter, Escape, Tab)
+  // unchanged.
+  int16_t comboAutoComplete(ComboBox& combo, int16_t keyAscii) const;
 
  private:
   std::shared_ptr<ErrorObject> errorClass_;

@@ -1,0 +1,61 @@
+#pragma once
+// FileFacts: everything the system asks about one file, as one metadata call
+// of the file system answers it: whether it can be reached, whether it is a
+// folder, its size, permission bits and dates.
+
+#include <cstdint>
+#include <string>
+
+namespace qb {
+
+// How a path answered.
+enum class FileReach {
+  present,      // the path names an existing file or folder
+  missing,      // no such file or folder (or a part of the path is no folder)
+  denied,       // a folder on the way may not be searched
+  unreachable,  // the file system failed or did not answer in time
+};
+
+// A point in time as the file system keeps it: seconds and nanoseconds since
+// 1 January 1970 UTC.
+struct FileTime {
+  int64_t seconds = 0;
+  int32_t nanoseconds = 0;
+  bool operator<(const FileTime& other) const {
+    return seconds < other.seconds || (seconds == other.seconds && nanoseconds < other.nanoseconds);
+  }
+};
+
+struct FileFacts {
+  FileReach reach = FileReach::unreachable;
+  bool isFolder = false;
+  uint64_t size = 0;
+  uint32_t mode = 0;  // permission bits (0777)
+  FileTime accessed, modified, changed, born;
+  bool hasBirth = false;  // the file system keeps a birth time
+  // True when the answer came from a share that stopped answering: the call
+  // was abandoned, or the share had already been found dead.
+  bool timedOut = false;
+
+  bool present() const { return reach == FileReach::present; }
+  bool isFile() const { return present() && !isFolder; }
+  // The birth time where the file system keeps one, else the earliest of the
+  // status-change and modification times.
+  FileTime created() const {
+    if (hasBirth) return born;
+    return changed < modified ? changed : modified;
+  }
+
+  static FileFacts unreachableFacts(bool timedOut) {
+    FileFacts facts;
+    facts.timedOut = timedOut;
+    return facts;
+  }
+  static FileFacts of(FileReach reach) {
+    FileFacts facts;
+    facts.reach = reach;
+    return facts;
+  }
+};
+
+}  // namespace qb
