@@ -17,7 +17,7 @@
 #include "services/host/locale_reference.h"
 #include "services/host/module_state.h"
 #include "services/runtime/dates.h"
-#include "services/store/sample_firm.h"
+#include "sample/sample_firm.h"
 #include "services/store/sqlite_database.h"
 #include "tests/merge/literal_passes.h"
 
