@@ -48,6 +48,8 @@ const CommandRegistration registration(Command{
     withMergeItems({"text", "template", "db"}),
     {"rich", "skip-fields"},
     runCheckTemplate,
+    false,
+    {kScheduleId},
 });
 
 }  // namespace

@@ -59,6 +59,8 @@ const CommandRegistration registration(Command{
     {"list-type", "appointment", "docket", "task", "schedule", "company", "contact", "db"},
     {"test", "title"},
     runDisplayText,
+    false,
+    {kScheduleId},
 });
 
 }  // namespace

@@ -66,6 +66,8 @@ const CommandRegistration registration(Command{
     withMergeItems({"text", "template", "db"}),
     {"test", "rtf", "plain", "no-wrap", "company-as-contact"},
     runMerge,
+    false,
+    {kScheduleId},
 });
 
 }  // namespace

@@ -53,6 +53,7 @@ const CommandRegistration registration(Command{
     {},
     runWriteField,
     true,
+    {kScheduleId},
 });
 
 }  // namespace

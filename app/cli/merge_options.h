@@ -12,6 +12,9 @@
 
 namespace qb::cli {
 
+// --schedule names a schedule row (its task is the merge's).
+inline const IdOption kScheduleId = {"schedule", "Schedule", "ScheduleID", "schedule row"};
+
 // The value options of the merge's items and list.
 inline const std::vector<std::string> kMergeItemOptions = {
     "list-type", "use",         "company", "contact",  "firm",
