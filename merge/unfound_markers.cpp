@@ -63,18 +63,19 @@ bool removeInOneReading(std::string& text, std::string_view open, std::string_vi
       pieces.insert(std::string_view(text).substr(span.begin, span.end - span.begin));
       longest = std::max(longest, span.end - span.begin);
     }
-    auto holdsOtherPiece = [&](size_t begin, size_t end) {
-      end = std::min(end, begin + longest);
-      for (size_t at = text.find('\\', begin + 1); at != npos && at + 1 < end;
+    // True when a piece stands at begin and ends at or before limit.
+    auto holdsPiece = [&](size_t begin, size_t limit) {
+      limit = std::min(limit, begin + longest);
+      for (size_t at = text.find('\\', begin + 1); at != npos && at + 1 <= limit;
            at = text.find('\\', at + 1)) {
         if (pieces.count(std::string_view(text).substr(begin, at + 1 - begin))) return true;
       }
       return false;
     };
     for (const Span& span : spans) {
-      if (holdsOtherPiece(span.begin, span.end)) return false;
+      if (holdsPiece(span.begin, span.end - 1)) return false;  // a piece shorter than its own
     }
-    if (lone != npos && holdsOtherPiece(lone, text.size() + 1)) return false;
+    if (lone != npos && holdsPiece(lone, text.size())) return false;
   }
   std::string kept;
   kept.reserve(text.size());

@@ -113,6 +113,16 @@ TEST_F(MergePasses, WhatNoSweepReplacedIsRemoved) {
   // RTF markers behind it too.
   EXPECT_EQ(merge("«Nope» «Contact First Name» and «open"), " Ann and «open");
   EXPECT_EQ(merge("«open \\'abNope\\'bb"), "«open \\'abNope\\'bb");
+  // A piece is cut wherever its text stands, also from the start of a
+  // bracket that never closes (found by fuzzing the merge against the
+  // literal passes).
+  std::string lone = "\\'abNope\\'bb \\'abNope\\'b x";
+  fields.replaceUnfoundMergeFieldsWithBlanks(lone);
+  EXPECT_EQ(lone, "'bb 'b x");
+  fields.setTemplateText(
+      "{\\rtf1\\ansi \\b\\'abCompany Na\xf7e\\'bb\\b0\\p(:r \\'b\\'abCompany Na\xf7e\\'b "
+      "Datm, ddb}");
+  EXPECT_EQ(fields.parseRTBComment(), fields.parseLiterally());
   // A lone close bracket is just text.
   EXPECT_EQ(merge("» «Nope» »"), "»  »");
   std::string text = "\\par \r\n\\par \r\nx";
