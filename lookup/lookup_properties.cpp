@@ -1,0 +1,75 @@
+// clsLookupFields: the object's start and the id properties, whose setters
+// keep the kind of client and the company's two ids in step.
+
+#include "data/mod_database_functions.h"
+#include "lookup/cls_lookup_fields.h"
+#include "lookup/lookup_services.h"
+#include "services/errors/procedure.h"
+#include "services/errors/runtime_error.h"
+#include "services/host/locale_reference.h"
+#include "services/host/module_state.h"
+#include "services/store/database_reference.h"
+
+namespace qb {
+
+namespace lookup {
+
+std::string traceName(const char* procedure) {
+  return std::string("Orvanta.exe-clsLookupFieldTasks-") + procedure;
+}
+
+DatabaseReference* connectedStore(Procedure& proc) {
+  const std::shared_ptr<DatabaseReference>& store = moduleState().databaseReference;
+  if (store == nullptr) {
+    proc.leave();
+    throw RuntimeError(err::kObjectRequired, "Object variable or With block variable not set");
+  }
+  return store->isConnected() ? store.get() : nullptr;
+}
+
+}  // namespace lookup
+
+clsLookupFields::clsLookupFields() {
+  Procedure proc(lookup::traceName("Class_Initialize"), Procedure::Mode::Resume);
+  proc.step([&] {
+    if (LocaleReference* locale = moduleState().localeReference.get()) {
+      personalTaxYear_ = locale->getCurrentTaxYear();
+    }
+  });
+}
+
+void clsLookupFields::setClientIDNum(int32_t value) {
+  if (value >= 0) {
+    clientIDNum_ = value;
+    companyIDNum_ = modDatabaseFunctions::getCompanyIDFromClientDataID(value);
+    clientType_ = clientCompany;
+    return;
+  }
+  clientIDNum_ = -1;
+  companyIDNum_ = -1;
+  if (clientType_ == clientCompany) clientType_ = clientNone;
+}
+
+void clsLookupFields::setCompanyIDNum(int32_t value) {
+  if (value >= 0) {
+    companyIDNum_ = value;
+    clientIDNum_ = modDatabaseFunctions::getClientDataIDFromCompanyID(value);
+    clientType_ = clientCompany;
+    return;
+  }
+  clientIDNum_ = -1;
+  companyIDNum_ = -1;
+  if (clientType_ == clientCompany) clientType_ = clientNone;
+}
+
+void clsLookupFields::setContactIDNum(int32_t value) {
+  if (value >= 0) {
+    contactIDNum_ = value;
+    clientType_ = clientContact;
+    return;
+  }
+  contactIDNum_ = -1;
+  if (clientType_ == clientContact) clientType_ = clientNone;
+}
+
+}  // namespace qb
