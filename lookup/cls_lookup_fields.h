@@ -140,6 +140,9 @@ class clsLookupFields {
   void populateLookupFieldValuesForAllClients();
 
  private:
+  // The company's two ids and the kind of client: given, both ids and a
+  // company kind; otherwise none and no company kind.
+  void setCompany(int32_t clientID, int32_t companyID, bool given);
   // The type test, as steps of the caller's procedure: True when the
   // settings row gives the column the wanted type; secondRead reads it again
   // and a blank second read is no match. False without a store, without a

@@ -39,27 +39,23 @@ clsLookupFields::clsLookupFields() {
 }
 
 void clsLookupFields::setClientIDNum(int32_t value) {
-  if (value >= 0) {
-    clientIDNum_ = value;
-    companyIDNum_ = modDatabaseFunctions::getCompanyIDFromClientDataID(value);
-    clientType_ = clientCompany;
-    return;
-  }
-  clientIDNum_ = -1;
-  companyIDNum_ = -1;
-  if (clientType_ == clientCompany) clientType_ = clientNone;
+  setCompany(value, value >= 0 ? modDatabaseFunctions::getCompanyIDFromClientDataID(value) : -1,
+             value >= 0);
 }
 
 void clsLookupFields::setCompanyIDNum(int32_t value) {
-  if (value >= 0) {
-    companyIDNum_ = value;
-    clientIDNum_ = modDatabaseFunctions::getClientDataIDFromCompanyID(value);
+  setCompany(value >= 0 ? modDatabaseFunctions::getClientDataIDFromCompanyID(value) : -1, value,
+             value >= 0);
+}
+
+void clsLookupFields::setCompany(int32_t clientID, int32_t companyID, bool given) {
+  clientIDNum_ = given ? clientID : -1;
+  companyIDNum_ = given ? companyID : -1;
+  if (given) {
     clientType_ = clientCompany;
-    return;
+  } else if (clientType_ == clientCompany) {
+    clientType_ = clientNone;
   }
-  clientIDNum_ = -1;
-  companyIDNum_ = -1;
-  if (clientType_ == clientCompany) clientType_ = clientNone;
 }
 
 void clsLookupFields::setContactIDNum(int32_t value) {

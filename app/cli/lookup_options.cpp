@@ -46,30 +46,29 @@ LookupProgress::LookupProgress(Context& context, clsLookupFields& fields, Run ru
     state.bar.update(counter > 0 ? counter : 0, state.total);
   };
   auto end = [&state] { state.bar.clear(); };
+  auto wire = [&](Event<void()>& onStart, Event<void(int32_t&)>& onMax,
+                  Event<void(int32_t&)>& onInc, Event<void()>& onEnd) {
+    onStart = start;
+    onMax = max;
+    onInc = inc;
+    onEnd = end;
+  };
   switch (run) {
     case Run::ClientRepeater:
-      fields.startPopulateClientRepeaterFields = start;
-      fields.maxPopulateClientRepeaterFields = max;
-      fields.incPopulateClientRepeaterFields = inc;
-      fields.endPopulateClientRepeaterFields = end;
+      wire(fields.startPopulateClientRepeaterFields, fields.maxPopulateClientRepeaterFields,
+           fields.incPopulateClientRepeaterFields, fields.endPopulateClientRepeaterFields);
       break;
     case Run::TypeRepeater:
-      fields.startPopulateTaskTypeRepeaterFields = start;
-      fields.maxPopulateTaskTypeRepeaterFields = max;
-      fields.incPopulateTaskTypeRepeaterFields = inc;
-      fields.endPopulateTaskTypeRepeaterFields = end;
+      wire(fields.startPopulateTaskTypeRepeaterFields, fields.maxPopulateTaskTypeRepeaterFields,
+           fields.incPopulateTaskTypeRepeaterFields, fields.endPopulateTaskTypeRepeaterFields);
       break;
     case Run::Remove:
-      fields.startRemoveLookupFieldValues = start;
-      fields.maxRemoveLookupFieldValues = max;
-      fields.incRemoveLookupFieldValues = inc;
-      fields.endRemoveLookupFieldValues = end;
+      wire(fields.startRemoveLookupFieldValues, fields.maxRemoveLookupFieldValues,
+           fields.incRemoveLookupFieldValues, fields.endRemoveLookupFieldValues);
       break;
     case Run::Lookup:
-      fields.startPopulateLookupFields = start;
-      fields.maxPopulateLookupFields = max;
-      fields.incPopulateLookupFields = inc;
-      fields.endPopulateLookupFields = end;
+      wire(fields.startPopulateLookupFields, fields.maxPopulateLookupFields,
+           fields.incPopulateLookupFields, fields.endPopulateLookupFields);
       break;
   }
 }

@@ -1,8 +1,8 @@
 #pragma once
-// The lookup tests' support: a small firm written straight into a fresh
-// client database, reached through a store that records every SQL text, a
-// fixed clock, and a log of the class's events, the pointer and the event
-// pump's turns as short strings.
+// The lookup tests' support: a small firm written straight into the data
+// tests' fresh client database, reached through the store that records
+// every SQL text (DataTest), a fixed clock, and a log of the class's events
+// and the event pump's turns as short strings.
 
 #include <gtest/gtest.h>
 
@@ -20,10 +20,9 @@
 
 namespace qb::test {
 
-class LookupTest : public ::testing::Test {
+class LookupTest : public DataTest {
  protected:
-  LookupTest() : spy(std::make_shared<SpyStore>(db.storePtr())) {
-    moduleState().databaseReference = spy;
+  LookupTest() {
     moduleState().clock = std::make_shared<FixedClock>(DateSerial(2026, 11, 23));
     resetPlatform();
     installEventPump([this] { log.push_back("pump"); });
@@ -42,10 +41,7 @@ class LookupTest : public ::testing::Test {
         "RemittanceCustomType3, PersonalTaxTaskCustomType1, ProjectCustomType1, "
         "ProjectCustomType2, ProjectCustomType3) VALUES (1, 3, 2, 4, 3, 2, 4, 3);");
   }
-  ~LookupTest() override {
-    resetPlatform();
-    resetModuleState();
-  }
+  ~LookupTest() override { resetPlatform(); }
 
   // Schedule rows: id, ClientNum, ContactIDNum, TotalNum, ScheduleNum (NULL
   // written as such), each with the Custom columns "old<id>".
@@ -106,17 +102,6 @@ class LookupTest : public ::testing::Test {
     }
     return found;
   }
-  // The innermost trace name of every recorded failure.
-  std::vector<std::string> failedTraces() {
-    std::vector<std::string> names;
-    for (const auto& failure : db.errors().failures) {
-      names.push_back(failure.stack.empty() ? "" : failure.stack.back());
-    }
-    return names;
-  }
-
-  TestDatabase db;
-  std::shared_ptr<SpyStore> spy;
   std::vector<std::string> log;
 };
 
