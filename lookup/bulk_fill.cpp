@@ -61,14 +61,8 @@ void clsLookupFields::populateLookupFieldValuesForAllClients() {
   });
   DatabaseReference* store = nullptr;
   RecordsetHandle list = -1;
-  proc.step([&] {
-    store = lookup::connectedStore(proc);
-    if (store == nullptr) {
-      proc.leave();
-      return;
-    }
-    list = store->openRecordset(listSQL, adOpenKeyset, adLockReadOnly);
-  });
+  proc.step([&] { store = lookup::openWhenConnected(proc, listSQL, adLockReadOnly, list); });
+  if (store == nullptr) return;
   proc.step([&] {
     if (store->moveFirstRecord(list)) return;
     store->closeRecordset(list);

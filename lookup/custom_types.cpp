@@ -16,14 +16,8 @@ bool clsLookupFields::hasCustomType(Procedure& proc, const std::string& checkSQL
   bool result = false;
   DatabaseReference* store = nullptr;
   RecordsetHandle settings = -1;
-  proc.step([&] {
-    store = lookup::connectedStore(proc);
-    if (store == nullptr) {
-      proc.leave();
-      return;
-    }
-    settings = store->openRecordset(checkSQL, adOpenKeyset, adLockReadOnly);
-  });
+  proc.step([&] { store = lookup::openWhenConnected(proc, checkSQL, adLockReadOnly, settings); });
+  if (store == nullptr) return false;
   proc.step([&] {
     if (!store->moveFirstRecord(settings)) return;
     const Variant column(typeColumn + std::to_string(customNumber_));

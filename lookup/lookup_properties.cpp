@@ -18,13 +18,19 @@ std::string traceName(const char* procedure) {
   return std::string("Orvanta.exe-clsLookupFieldTasks-") + procedure;
 }
 
-DatabaseReference* connectedStore(Procedure& proc) {
+DatabaseReference* openWhenConnected(Procedure& proc, const std::string& sql, int32_t lockType,
+                                     RecordsetHandle& handle) {
   const std::shared_ptr<DatabaseReference>& store = moduleState().databaseReference;
   if (store == nullptr) {
     proc.leave();
     throw RuntimeError(err::kObjectRequired, "Object variable or With block variable not set");
   }
-  return store->isConnected() ? store.get() : nullptr;
+  if (!store->isConnected()) {
+    proc.leave();
+    return nullptr;
+  }
+  handle = store->openRecordset(sql, adOpenKeyset, lockType);
+  return store.get();
 }
 
 }  // namespace lookup

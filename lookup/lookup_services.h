@@ -2,12 +2,13 @@
 // What the files of clsLookupFields share: their trace names and the
 // module's store as they reach it.
 
-#include <memory>
+#include <cstdint>
 #include <string>
+
+#include "services/store/database_reference.h"
 
 namespace qb {
 
-class DatabaseReference;
 class Procedure;
 
 namespace lookup {
@@ -15,9 +16,12 @@ namespace lookup {
 // "Orvanta.exe-clsLookupFieldTasks-" + procedure.
 std::string traceName(const char* procedure);
 
-// The module's store when it can take queries; nullptr when it can't. No
-// store at all is an object-required failure, and the procedure leaves.
-DatabaseReference* connectedStore(Procedure& proc);
+// The opening step of a run: when the module's store can take queries,
+// opens the SQL (keyset, the lock given) into handle and returns the store;
+// otherwise the procedure leaves and the result is nullptr. No store at all
+// is an object-required failure.
+DatabaseReference* openWhenConnected(Procedure& proc, const std::string& sql, int32_t lockType,
+                                     RecordsetHandle& handle);
 
 }  // namespace lookup
 }  // namespace qb

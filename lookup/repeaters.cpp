@@ -7,7 +7,6 @@
 #include "lookup/lookup_sql.h"
 #include "services/controls/platform.h"
 #include "services/errors/procedure.h"
-#include "services/host/module_state.h"
 #include "services/runtime/strings.h"
 #include "services/store/database_reference.h"
 
@@ -27,11 +26,14 @@ struct RunEvents {
 };
 
 // Writes value to the column of every row of rowsSQL under the busy
-// pointer, raising the events; stops when there are no rows.
-void writeEveryRow(Procedure& proc, DatabaseReference& store, const std::string& rowsSQL,
-                   const std::string& column, const std::string& value, const RunEvents& events) {
+// pointer, raising the events; stops without a connected store or rows.
+void writeEveryRow(Procedure& proc, const std::string& rowsSQL, const std::string& column,
+                   const std::string& value, const RunEvents& events) {
   RecordsetHandle rows = -1;
-  proc.step([&] { rows = store.openRecordset(rowsSQL, adOpenKeyset, adLockOptimistic); });
+  DatabaseReference* connected = nullptr;
+  proc.step([&] { connected = lookup::openWhenConnected(proc, rowsSQL, adLockOptimistic, rows); });
+  if (connected == nullptr) return;
+  DatabaseReference& store = *connected;
   proc.step([&] {
     if (store.moveFirstRecord(rows)) return;
     store.closeRecordset(rows);
@@ -65,14 +67,13 @@ void clsLookupFields::writeRepeatValue(Procedure& proc, const std::string& check
   const int16_t wanted = kind == RepeaterEvents::Client ? customClientRepeater : customTypeRepeater;
   // The type test also stops a run without a connected store.
   if (!hasCustomType(proc, checkSQL, typeColumn, wanted, false)) return;
-  DatabaseReference& store = *moduleState().databaseReference;
   const RunEvents client{startPopulateClientRepeaterFields, maxPopulateClientRepeaterFields,
                          incPopulateClientRepeaterFields, endPopulateClientRepeaterFields};
   const RunEvents taskType{startPopulateTaskTypeRepeaterFields, maxPopulateTaskTypeRepeaterFields,
                            incPopulateTaskTypeRepeaterFields, endPopulateTaskTypeRepeaterFields};
   std::string value;
   proc.step([&] { value = Left(repeatValue_, repeatValueLimit); });
-  writeEveryRow(proc, store, rowsSQL, lookup_sql::customColumn(customNumber_), value,
+  writeEveryRow(proc, rowsSQL, lookup_sql::customColumn(customNumber_), value,
                 kind == RepeaterEvents::Client ? client : taskType);
 }
 
@@ -120,13 +121,7 @@ void clsLookupFields::removeLookupFieldVales() {
   const std::string rowsSQL =
       lookup_sql::allRowsSQL(lookUpFieldsType_, customNumber_, personalTaxYear_);
   if (rowsSQL.empty()) return;
-  DatabaseReference* store = nullptr;
-  proc.step([&] {
-    store = lookup::connectedStore(proc);
-    if (store == nullptr) proc.leave();
-  });
-  if (proc.leaving()) return;
-  writeEveryRow(proc, *store, rowsSQL, lookup_sql::customColumn(customNumber_), "",
+  writeEveryRow(proc, rowsSQL, lookup_sql::customColumn(customNumber_), "",
                 {startRemoveLookupFieldValues, maxRemoveLookupFieldValues,
                  incRemoveLookupFieldValues, endRemoveLookupFieldValues});
 }

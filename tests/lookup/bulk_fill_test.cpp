@@ -147,6 +147,24 @@ TEST_F(BulkFillTest, BadInputWritesNothingOrKeepsWhatWasWritten) {
   EXPECT_EQ(db.errors().failures.size(), 1u);
 }
 
+TEST_F(BulkFillTest, GoingOnAfterEachFailureEndsTheRunWithNothingWritten) {
+  // The user answers every failure with "go on".
+  db.errors().defaultResponse = 1;
+  const std::string before = column1();
+  record(fields);
+  fields.setFieldName("DisplayName");
+  fields.setCustomNumber(99);
+  fields.populateLookupFieldValuesForAllClients();
+  EXPECT_EQ(db.errors().failures.size(), 5u);  // each client's write
+  EXPECT_EQ(events().back(), "lookup end");
+  EXPECT_EQ(column1(), before);
+  EXPECT_EQ(spy->open, 0);
+  // A type test whose query fails answers False.
+  fields.setCustomNumber(0);
+  EXPECT_FALSE(fields.isLookupField());
+  EXPECT_EQ(db.errors().failures.size(), 6u);
+}
+
 TEST_F(BulkFillTest, ALockedDatabaseStopsTheFillAndKeepsWhatWasWritten) {
   // A store that waits only briefly on a busy file.
   auto quick = std::make_shared<SqliteDatabase>();
