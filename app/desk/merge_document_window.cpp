@@ -196,7 +196,7 @@ bool MergeDocumentWindow::testTemplate(std::string text, std::string& message) {
 
 bool MergeDocumentWindow::check() {
   std::string message;
-  const bool good = testTemplate(templateText(), message);
+  const bool good = testTemplate(mergeSource(), message);
   if (good) {
     say("The template's markers are all good.", false);
   } else {
@@ -207,15 +207,21 @@ bool MergeDocumentWindow::check() {
   return good;
 }
 
-std::string MergeDocumentWindow::mergeText(bool test, std::string* source) {
+std::string MergeDocumentWindow::mergeText(bool test) {
   clsInsertFieldsInRTB merge;
   setMergeClient(merge, client_);
   merge.setTestComment(test);
   merge.setConvertStrToRTF(rich_);
   merge.initializeDataRecordsetsForSingleDocMerge();
   merge.setTemplateText(templateText());
-  if (source != nullptr) *source = merge.mergedTemplateSource();
   return merge.parseRTBComment();
+}
+
+std::string MergeDocumentWindow::mergeSource() {
+  clsInsertFieldsInRTB merge;
+  setMergeClient(merge, client_);
+  merge.setTemplateText(templateText());
+  return merge.mergedTemplateSource();
 }
 
 void MergeDocumentWindow::showMerged(const std::string& merged, const QString& caption) {
@@ -246,8 +252,7 @@ std::string MergeDocumentWindow::mergedPath() const {
 }
 
 std::string MergeDocumentWindow::merge() {
-  std::string source;
-  const std::string merged = mergeText(false, &source);
+  const std::string merged = mergeText(false);
   const std::string target = mergedPath();
   std::ofstream file(target, std::ios::binary);
   file << merged;
@@ -263,11 +268,10 @@ std::string MergeDocumentWindow::merge() {
   showMerged(merged, "Merged Document");
   QString said = QString("Merged for %1: saved as %2.")
                      .arg(QString::fromStdString(client_.name), QString::fromStdString(target));
-  // The merge removes what names no field of this client; the check of what
-  // it read says what that was, so that a marker gone missing does not go
-  // unnoticed.
+  // The merge removes what names no field of this client; the check says
+  // what that was, so that a marker gone missing does not go unnoticed.
   std::string problem;
-  const bool good = testTemplate(source, problem);
+  const bool good = testTemplate(mergeSource(), problem);
   if (!good && !problem.empty())
     said += "\nThe check of the template: " + QString::fromStdString(problem);
   say(said, !good);

@@ -51,8 +51,9 @@ class MergeDocumentWindow : public QDialog {
   std::string templateText() const;
   bool isRichText() const { return rich_; }
 
-  // The template check with messages; true when the template is good. The
-  // message (or that it is good) shows in the message line.
+  // The template check with messages, on the template as the merge for the
+  // client reads it; true when the template is good. The message (or that
+  // it is good) shows in the message line.
   bool check();
   // Merges the sample values and shows the result in the Preview tab.
   void preview();
@@ -92,9 +93,11 @@ class MergeDocumentWindow : public QDialog {
   // The template check with messages on text; true when good, else the
   // message raised (empty when the check failed without one).
   bool testTemplate(std::string text, std::string& message);
-  // The merge set for the client, in test mode or not; source, when given,
-  // receives the template as the passes read it.
-  std::string mergeText(bool test, std::string* source = nullptr);
+  // The merge set for the client, in test mode or not.
+  std::string mergeText(bool test);
+  // The template as the merge for the client reads it (a contact's name
+  // standing for the company's), which the check looks at.
+  std::string mergeSource();
   // Shows a merged text (RTF as it reads) in the second tab, under caption.
   void showMerged(const std::string& merged, const QString& caption);
 

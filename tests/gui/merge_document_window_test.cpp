@@ -180,6 +180,12 @@ TEST_F(MergeDocument, EachClientsDocumentIsNamedForItAndReadsAsRtf) {
       "valid placeholder field name."))
       << contact.message().toStdString();
   screenshotOf(contact, "merge-document-merged-contact");
+  // Check looks at the template as her merge reads it: the company's name
+  // is hers, the address is still no field of hers.
+  EXPECT_FALSE(contact.check());
+  EXPECT_EQ(contact.message(),
+            "The Orvanta Pad did not recognize: \u00abAddress\u00bb as a valid placeholder field "
+            "name.");
 }
 
 TEST_F(MergeDocument, FieldsGoInAsRtfSourceAndTheCheckSaysWhatIsWrong) {
