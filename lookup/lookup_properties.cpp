@@ -5,35 +5,10 @@
 #include "lookup/cls_lookup_fields.h"
 #include "lookup/lookup_services.h"
 #include "services/errors/procedure.h"
-#include "services/errors/runtime_error.h"
 #include "services/host/locale_reference.h"
 #include "services/host/module_state.h"
-#include "services/store/database_reference.h"
 
 namespace qb {
-
-namespace lookup {
-
-std::string traceName(const char* procedure) {
-  return std::string("Orvanta.exe-clsLookupFieldTasks-") + procedure;
-}
-
-DatabaseReference* openWhenConnected(Procedure& proc, const std::string& sql, int32_t lockType,
-                                     RecordsetHandle& handle) {
-  const std::shared_ptr<DatabaseReference>& store = moduleState().databaseReference;
-  if (store == nullptr) {
-    proc.leave();
-    throw RuntimeError(err::kObjectRequired, "Object variable or With block variable not set");
-  }
-  if (!store->isConnected()) {
-    proc.leave();
-    return nullptr;
-  }
-  handle = store->openRecordset(sql, adOpenKeyset, lockType);
-  return store.get();
-}
-
-}  // namespace lookup
 
 clsLookupFields::clsLookupFields() {
   Procedure proc(lookup::traceName("Class_Initialize"), Procedure::Mode::Resume);
