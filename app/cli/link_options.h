@@ -1,0 +1,18 @@
+#pragma once
+// What the links commands share: the client they work on (--company N,
+// --contact N or --all, the default) and the checks on it.
+
+#include "app/cli/command.h"
+#include "links/link_record.h"
+
+namespace qb::cli {
+
+// The scope of the client options; throws UsageError for more than one of
+// them or a negative id.
+links::LinkScope linkScope(const Arguments& args);
+
+// Refuses (UsageError) a company or contact that names no row, once the
+// session's store is open: "--company 77 names no company in the database".
+void requireClient(const links::LinkScope& scope);
+
+}  // namespace qb::cli
