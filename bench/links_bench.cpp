@@ -19,11 +19,11 @@
 #include "links/link_check.h"
 #include "links/link_reader.h"
 #include "links/relink.h"
+#include "sample/sample_firm.h"
 #include "services/errors/console_error_object.h"
 #include "services/files/file_facts_service.h"
 #include "services/host/locale_reference.h"
 #include "services/host/module_state.h"
-#include "services/store/sample_firm.h"
 #include "services/store/sqlite_database.h"
 
 namespace {

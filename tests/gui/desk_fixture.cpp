@@ -11,7 +11,7 @@
 #include <cstdlib>
 
 #include "gui/theme_icons.h"
-#include "services/store/sample_firm.h"
+#include "sample/sample_firm.h"
 
 // The desktop's font library keeps its caches for the life of the process,
 // and so does the D-Bus library its connection on an X display; the leak
