@@ -19,6 +19,7 @@ int runLinksLocate(Context& context) {
   std::string folder = args.required("under");
   const links::LinkScope scope = linkScope(args);
 
+  ReadsUnlessApplied preview(context);
   Session session(context);
   requireClient(scope);
   std::string error;

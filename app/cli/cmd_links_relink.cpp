@@ -28,6 +28,7 @@ int runLinksRelink(Context& context) {
   if (from == to) throw UsageError("--from and --to name the same folder, " + from);
   const links::LinkScope scope = linkScope(args);
 
+  ReadsUnlessApplied preview(context);
   Session session(context);
   requireClient(scope);
   std::string error;

@@ -27,4 +27,12 @@ void requireClient(const links::LinkScope& scope) {
                      " names no contact in the database");
 }
 
+ReadsUnlessApplied::ReadsUnlessApplied(Context& context)
+    : context_(context), original_(context.command) {
+  if (original_ == nullptr || context.args.has("apply")) return;
+  preview_ = *original_;
+  preview_.writes = false;
+  context.command = &preview_;
+}
+
 }  // namespace qb::cli

@@ -15,4 +15,21 @@ links::LinkScope linkScope(const Arguments& args);
 // session's store is open: "--company 77 names no company in the database".
 void requireClient(const links::LinkScope& scope);
 
+// For the commands that write only with --apply: while it lives, a run
+// without --apply is a read, so its session opens the database read-only (a
+// preview never changes the file, and runs for a user who may not write it).
+// Made before the command's Session.
+class ReadsUnlessApplied {
+ public:
+  explicit ReadsUnlessApplied(Context& context);
+  ~ReadsUnlessApplied() { context_.command = original_; }
+  ReadsUnlessApplied(const ReadsUnlessApplied&) = delete;
+  ReadsUnlessApplied& operator=(const ReadsUnlessApplied&) = delete;
+
+ private:
+  Context& context_;
+  const Command* original_;
+  Command preview_;
+};
+
 }  // namespace qb::cli

@@ -159,6 +159,20 @@ TEST_F(LinksCommandsTest, RelinkRepairsAFirmWhoseFilesFolderMovedWithAPreviewFir
   EXPECT_EQ(scalarIn(own_, paths), after);
 }
 
+TEST_F(LinksCommandsTest, APreviewIsARead) {
+  // A user who may not write the database previews.
+  const std::string files = shared_->file("firm-files");
+  const std::string bytes = bytesOf(db_);
+  const ToolRun preview = runAsReader(
+      {"links", "relink", "--db", db_, "--from", files, "--to", folder_.path().string()});
+  EXPECT_EQ(preview.status, 0) << preview.err;
+  EXPECT_NE(preview.out.find("201 links under " + files + ": 0 with their file under"),
+            std::string::npos);
+  EXPECT_EQ(
+      runAsReader({"links", "locate", "--db", db_, "--under", folder_.path().string()}).status, 0);
+  EXPECT_TRUE(bytesOf(db_) == bytes);
+}
+
 TEST_F(LinksCommandsTest, LocateFindsMovedFilesByName) {
   ownFirm();
   const std::string archive = folder_.file("archive");
