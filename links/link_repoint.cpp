@@ -48,4 +48,18 @@ RepointOutcome repointLink(int32_t documentID, const std::string& oldPath,
   return outcome;
 }
 
+std::vector<RepointOutcome> repointLinks(const std::vector<PlannedMove>& moves,
+                                         const Progress& progress) {
+  std::vector<RepointOutcome> outcomes;
+  outcomes.reserve(moves.size());
+  FileFactsOperation operation;
+  for (const PlannedMove& move : moves) {
+    outcomes.push_back(move.newPath.empty()
+                           ? RepointOutcome::notFound
+                           : repointLink(move.documentID, move.oldPath, move.newPath));
+    if (progress) progress(outcomes.size(), moves.size());
+  }
+  return outcomes;
+}
+
 }  // namespace qb::links

@@ -9,6 +9,9 @@
 
 #include <cstdint>
 #include <string>
+#include <vector>
+
+#include "links/link_record.h"
 
 namespace qb::links {
 
@@ -26,5 +29,18 @@ const char* repointOutcomeName(RepointOutcome outcome);
 // an existing file or folder (asked afresh).
 RepointOutcome repointLink(int32_t documentID, const std::string& oldPath,
                            const std::string& newPath);
+
+// One link of a plan: the path it holds and the path to point it at; an
+// empty new path leaves it as it is (notFound).
+struct PlannedMove {
+  int32_t documentID = -1;
+  std::string oldPath;
+  std::string newPath;
+};
+
+// repointLink for each move, in order, within one operation of the
+// file-facts service; one outcome a move.
+std::vector<RepointOutcome> repointLinks(const std::vector<PlannedMove>& moves,
+                                         const Progress& progress = {});
 
 }  // namespace qb::links

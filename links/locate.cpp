@@ -69,17 +69,13 @@ LocatePlan planLocate(const std::vector<CheckedLink>& checked, const std::string
 }
 
 std::vector<RepointOutcome> applyLocate(const LocatePlan& plan, const Progress& progress) {
-  std::vector<RepointOutcome> outcomes;
-  outcomes.reserve(plan.rows.size());
-  FileFactsOperation operation;
+  std::vector<PlannedMove> moves;
   for (const LocateRow& row : plan.rows) {
-    outcomes.push_back(
-        row.matches.size() == 1
-            ? repointLink(row.link.link.documentID, row.link.link.path, row.matches.front())
-            : RepointOutcome::notFound);
-    if (progress) progress(outcomes.size(), plan.rows.size());
+    const LinkRecord& link = row.link.link;
+    moves.push_back(
+        {link.documentID, link.path, row.matches.size() == 1 ? row.matches.front() : ""});
   }
-  return outcomes;
+  return repointLinks(moves, progress);
 }
 
 }  // namespace qb::links

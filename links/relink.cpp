@@ -38,15 +38,10 @@ RelinkPlan planRelink(const std::vector<LinkRecord>& links, const std::string& f
 }
 
 std::vector<RepointOutcome> applyRelink(const RelinkPlan& plan, const Progress& progress) {
-  std::vector<RepointOutcome> outcomes;
-  outcomes.reserve(plan.rows.size());
-  FileFactsOperation operation;
-  for (const RelinkRow& row : plan.rows) {
-    outcomes.push_back(row.found ? repointLink(row.link.documentID, row.link.path, row.newPath)
-                                 : RepointOutcome::notFound);
-    if (progress) progress(outcomes.size(), plan.rows.size());
-  }
-  return outcomes;
+  std::vector<PlannedMove> moves;
+  for (const RelinkRow& row : plan.rows)
+    moves.push_back({row.link.documentID, row.link.path, row.found ? row.newPath : ""});
+  return repointLinks(moves, progress);
 }
 
 }  // namespace qb::links

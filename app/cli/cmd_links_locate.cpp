@@ -37,17 +37,12 @@ int runLinksLocate(Context& context) {
     ProgressBar bar(context.err, "Files seen under " + folder);
     plan = links::planLocate(checked, folder, bar.callback());
   }
-  if (!args.has("apply")) {
-    links::writeLocateReport(context.out, plan, nullptr);
-    return session.exitStatus();
-  }
-  std::vector<links::RepointOutcome> outcomes;
-  {
-    ProgressBar bar(context.err, "Relinking");
-    outcomes = links::applyLocate(plan, bar.callback());
-  }
-  links::writeLocateReport(context.out, plan, &outcomes);
-  return session.exitStatus();
+  return previewOrApply(
+      context, session,
+      [&](const links::Progress& progress) { return links::applyLocate(plan, progress); },
+      [&](const std::vector<links::RepointOutcome>* outcomes) {
+        links::writeLocateReport(context.out, plan, outcomes);
+      });
 }
 
 const CommandRegistration kRegistration(Command{

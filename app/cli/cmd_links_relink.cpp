@@ -42,17 +42,12 @@ int runLinksRelink(Context& context) {
     ProgressBar bar(context.err, "Looking at the new places");
     plan = links::planRelink(links::readLinks(scope), from, to, bar.callback());
   }
-  if (!args.has("apply")) {
-    links::writeRelinkReport(context.out, plan, nullptr);
-    return session.exitStatus();
-  }
-  std::vector<links::RepointOutcome> outcomes;
-  {
-    ProgressBar bar(context.err, "Relinking");
-    outcomes = links::applyRelink(plan, bar.callback());
-  }
-  links::writeRelinkReport(context.out, plan, &outcomes);
-  return session.exitStatus();
+  return previewOrApply(
+      context, session,
+      [&](const links::Progress& progress) { return links::applyRelink(plan, progress); },
+      [&](const std::vector<links::RepointOutcome>* outcomes) {
+        links::writeRelinkReport(context.out, plan, outcomes);
+      });
 }
 
 const CommandRegistration kRegistration(Command{

@@ -1,5 +1,6 @@
 #include "app/cli/link_options.h"
 
+#include "app/cli/progress_bar.h"
 #include "data/mod_database_functions.h"
 
 namespace qb::cli {
@@ -25,6 +26,23 @@ void requireClient(const links::LinkScope& scope) {
       !modDatabaseFunctions::validContactID(std::to_string(scope.contactID)))
     throw UsageError("--contact " + std::to_string(scope.contactID) +
                      " names no contact in the database");
+}
+
+int previewOrApply(
+    Context& context, Session& session,
+    const std::function<std::vector<links::RepointOutcome>(const links::Progress&)>& apply,
+    const std::function<void(const std::vector<links::RepointOutcome>*)>& write) {
+  if (!context.args.has("apply")) {
+    write(nullptr);
+    return session.exitStatus();
+  }
+  std::vector<links::RepointOutcome> outcomes;
+  {
+    ProgressBar bar(context.err, "Relinking");
+    outcomes = apply(bar.callback());
+  }
+  write(&outcomes);
+  return session.exitStatus();
 }
 
 ReadsUnlessApplied::ReadsUnlessApplied(Context& context)

@@ -2,8 +2,13 @@
 // What the links commands share: the client they work on (--company N,
 // --contact N or --all, the default) and the checks on it.
 
+#include <functional>
+#include <vector>
+
 #include "app/cli/command.h"
+#include "app/cli/session.h"
 #include "links/link_record.h"
+#include "links/link_repoint.h"
 
 namespace qb::cli {
 
@@ -14,6 +19,14 @@ links::LinkScope linkScope(const Arguments& args);
 // Refuses (UsageError) a company or contact that names no row, once the
 // session's store is open: "--company 77 names no company in the database".
 void requireClient(const links::LinkScope& scope);
+
+// The end of a command that writes only with --apply: without it, writes the
+// preview (write with no outcomes); with it, applies the plan under a
+// progress bar and writes how each link went. The session's exit status.
+int previewOrApply(
+    Context& context, Session& session,
+    const std::function<std::vector<links::RepointOutcome>(const links::Progress&)>& apply,
+    const std::function<void(const std::vector<links::RepointOutcome>*)>& write);
 
 // For the commands that write only with --apply: while it lives, a run
 // without --apply is a read, so its session opens the database read-only (a
