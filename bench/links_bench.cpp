@@ -3,8 +3,9 @@
 // there or with their folder), spread over 500 client companies: the read of
 // the links with their clients and categories, the check of their files, and
 // both together as `quillbox links check` runs them. The check again over a
-// share where every call costs 200 microseconds. And the relink of 5,000
-// links to a new folder, one write each.
+// share where every call costs 200 microseconds. The relink of 5,000
+// links to a new folder, one write each. And the search by name for the
+// broken links of the firm under its files folder, walked once.
 
 #include <benchmark/benchmark.h>
 
@@ -18,6 +19,7 @@
 #include "bench/slow_share.h"
 #include "links/link_check.h"
 #include "links/link_reader.h"
+#include "links/locate.h"
 #include "links/relink.h"
 #include "sample/sample_firm.h"
 #include "services/errors/console_error_object.h"
@@ -156,5 +158,19 @@ void BM_RelinkApply(benchmark::State& state) {
   state.counters["relinked"] = static_cast<double>(relinked);
 }
 BENCHMARK(BM_RelinkApply)->Arg(5000)->Unit(benchmark::kMillisecond);
+
+// The plan of links locate: the broken links (one in ten) looked for by name
+// in the one walk of the files folder, which holds the other nine in ten.
+void BM_LocatePlan(benchmark::State& state) {
+  LinkFirm& firm = firmOf(static_cast<int>(state.range(0)));
+  qb::installFileFacts(nullptr);
+  const auto checked = qb::links::checkLinks(qb::links::readLinks(qb::links::LinkScope::all()));
+  const std::string files = (firm.folder / "files").string();
+  qb::links::LocatePlan plan;
+  for (auto _ : state) plan = qb::links::planLocate(checked, files);
+  state.counters["looked_for"] = static_cast<double>(plan.rows.size());
+  state.counters["files_seen"] = static_cast<double>(plan.filesSeen);
+}
+BENCHMARK(BM_LocatePlan)->Arg(5000)->Arg(50000)->Unit(benchmark::kMillisecond);
 
 }  // namespace

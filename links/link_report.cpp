@@ -156,7 +156,9 @@ void writeRelinkReport(std::ostream& out, const RelinkPlan& plan,
     out << '\t' << textField(row.link.path) << '\t' << textField(row.newPath) << '\n';
   }
   if (plan.rows.empty()) {
-    out << "No link lies under " << plan.from << ".\n";
+    out << "No link lies under " << plan.from;
+    if (plan.newInsideOld()) out << " outside " << plan.to;
+    out << ".\n";
   } else if (outcomes == nullptr) {
     const size_t found = plan.foundCount();
     out << links(plan.rows.size()) << " under " << plan.from << ": " << found

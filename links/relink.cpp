@@ -13,10 +13,12 @@ size_t RelinkPlan::foundCount() const {
   return count;
 }
 
+bool RelinkPlan::newInsideOld() const { return isUnderPrefix(to, from); }
+
 RelinkPlan planRelink(const std::vector<LinkRecord>& links, const std::string& from,
                       const std::string& to, const Progress& progress) {
   RelinkPlan plan{from, to, {}};
-  const bool newInsideOld = isUnderPrefix(to, from);
+  const bool newInsideOld = plan.newInsideOld();
   for (const LinkRecord& link : links) {
     if (!isUnderPrefix(link.path, from)) continue;
     if (newInsideOld && isUnderPrefix(link.path, to)) continue;  // relinked already

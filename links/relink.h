@@ -28,6 +28,9 @@ struct RelinkPlan {
   std::vector<RelinkRow> rows;
 
   size_t foundCount() const;
+  // True when the new folder lies inside the old one: the links already
+  // under it are not taken.
+  bool newInsideOld() const;
 };
 
 // The plan for the links given (in their order) and two normalized

@@ -122,6 +122,8 @@ LinkHealthWindow::LinkHealthWindow(ClientWindow& window) : QDialog(&window), win
   tree_->setObjectName("links");
   tree_->setUniformRowHeights(true);
   tree_->setAlternatingRowColors(true);
+  // A long path keeps its start and its file's name.
+  tree_->setTextElideMode(Qt::ElideMiddle);
   tree_->setHeaderLabels({"Link", "State", "Category", "Path", "Computer"});
   tree_->header()->setStretchLastSection(false);
   tree_->header()->setSectionResizeMode(columnPath, QHeaderView::Stretch);

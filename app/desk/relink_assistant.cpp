@@ -79,6 +79,7 @@ RelinkAssistant::RelinkAssistant(const links::LinkScope& scope, const QString& o
   table_->setObjectName("preview");
   table_->setRootIsDecorated(false);
   table_->setUniformRowHeights(true);
+  table_->setTextElideMode(Qt::ElideMiddle);
   table_->setHeaderLabels({"Link", "Client", "New Path", "File"});
   table_->header()->setSectionResizeMode(2, QHeaderView::Stretch);
   layout->addWidget(table_, 1);
@@ -181,7 +182,9 @@ void RelinkAssistant::showPlan(const std::vector<links::RepointOutcome>* outcome
   const size_t found = plan_.foundCount();
   const QString under = text(plan_.from), there = text(plan_.to);
   if (plan_.rows.empty()) {
-    status_->setText(QString("No link lies under %1.").arg(under));
+    status_->setText(plan_.newInsideOld()
+                         ? QString("No link lies under %1 outside %2.").arg(under, there)
+                         : QString("No link lies under %1.").arg(under));
   } else if (outcomes == nullptr) {
     status_->setText(QString("%1 under %2: %3 with the file under %4, %5 without. Nothing "
                              "has been changed yet.")

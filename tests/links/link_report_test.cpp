@@ -78,27 +78,29 @@ TEST(LinkReport, TheCheckInItsThreeForms) {
 }
 
 TEST(LinkReport, RelinkAndLocateBeforeAndAfterTheyWereApplied) {
+  // The relink preview is read through the tool; here its applied form, each
+  // row with its outcome, and plans with no link.
   links::RelinkPlan relink{"/srv/old", "/srv/new", {}};
   relink.rows.push_back(
       {record(4, 2, -1, "Birch", "Lease", "/srv/old/Lease.docx"), "/srv/new/Lease.docx", true});
   relink.rows.push_back(
-      {record(5, 2, -1, "Birch", "Deed", "/srv/old/Deed.pdf"), "/srv/new/Deed.pdf", false});
-  std::ostringstream preview, applied, none;
-  links::writeRelinkReport(preview, relink, nullptr);
-  EXPECT_EQ(preview.str(),
-            "found\t4\tBirch\tLease\t/srv/old/Lease.docx\t/srv/new/Lease.docx\n"
-            "not-found\t5\tBirch\tDeed\t/srv/old/Deed.pdf\t/srv/new/Deed.pdf\n"
-            "2 links under /srv/old: 1 with their file under /srv/new, 1 without. Nothing was "
-            "changed; --apply relinks the 1.\n");
-  const std::vector<RepointOutcome> outcomes{RepointOutcome::repointed, RepointOutcome::notFound};
+      {record(5, 2, -1, "Birch", "Deed", "/srv/old/Deed.pdf"), "/srv/new/Deed.pdf", true});
+  relink.rows.push_back(
+      {record(6, 2, -1, "Birch", "Will", "/srv/old/Will.pdf"), "/srv/new/Will.pdf", false});
+  std::ostringstream applied, none, inside;
+  const std::vector<RepointOutcome> outcomes{
+      RepointOutcome::repointed, RepointOutcome::changedMeanwhile, RepointOutcome::notFound};
   links::writeRelinkReport(applied, relink, &outcomes);
   EXPECT_EQ(applied.str(),
             "relinked\t4\tBirch\tLease\t/srv/old/Lease.docx\t/srv/new/Lease.docx\n"
-            "not-found\t5\tBirch\tDeed\t/srv/old/Deed.pdf\t/srv/new/Deed.pdf\n"
-            "Relinked 1 of 2 links under /srv/old to /srv/new; left 1: not-found 1, "
-            "changed-meanwhile 0, failed 0.\n");
+            "changed-meanwhile\t5\tBirch\tDeed\t/srv/old/Deed.pdf\t/srv/new/Deed.pdf\n"
+            "not-found\t6\tBirch\tWill\t/srv/old/Will.pdf\t/srv/new/Will.pdf\n"
+            "Relinked 1 of 3 links under /srv/old to /srv/new; left 2: not-found 1, "
+            "changed-meanwhile 1, failed 0.\n");
   links::writeRelinkReport(none, links::RelinkPlan{"/srv/old", "/srv/new", {}}, nullptr);
   EXPECT_EQ(none.str(), "No link lies under /srv/old.\n");
+  links::writeRelinkReport(inside, links::RelinkPlan{"/srv", "/srv/new", {}}, nullptr);
+  EXPECT_EQ(inside.str(), "No link lies under /srv outside /srv/new.\n");
 
   links::LocatePlan locate;
   locate.folder = "/archive";

@@ -106,13 +106,15 @@ TEST_F(LinkStateTest, AUserWhoMayNotReadIsToldSo) {
   const std::string states = runAsUnprivileged([&] {
     const ReaderRights rights = ReaderRights::ofThisProcess();
     std::string seen;
-    for (const std::string& path : {open, secret, locked, readOnly})
-      seen +=
-          std::string(links::linkStateName(links::linkStateOf(path, thisComputer(), rights))) + " ";
+    for (const std::string& path : {open, secret, locked, readOnly}) {
+      seen += links::linkStateName(links::linkStateOf(path, thisComputer(), rights));
+      // The document list marks the same links with the broken-link emblem.
+      seen += fileUtilitiesClass().accessState(path) == FileAccessState::reachable ? " " : "! ";
+    }
     return seen;
   });
   chmod(files.file("Locked").c_str(), 0700);
-  EXPECT_EQ(states, "present no-permission no-permission read-only ");
+  EXPECT_EQ(states, "present no-permission! no-permission! read-only ");
 
   // The rule itself, for users other than this one.
   FileFacts facts = FileFacts::of(FileReach::present);
