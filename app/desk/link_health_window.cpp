@@ -1,7 +1,6 @@
 #include "app/desk/link_health_window.h"
 
 #include <QComboBox>
-#include <QCoreApplication>
 #include <QDialogButtonBox>
 #include <QHBoxLayout>
 #include <QHeaderView>
@@ -10,9 +9,11 @@
 #include <QPushButton>
 #include <QTreeWidget>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "app/desk/client_window.h"
 #include "app/desk/relink_assistant.h"
+#include "app/desk/work_progress.h"
 #include "control/nv_document_quillbox.h"
 #include "dialogs/frm_doc_properties.h"
 #include "gui/theme_icons.h"
@@ -114,7 +115,6 @@ LinkHealthWindow::LinkHealthWindow(ClientWindow& window) : QDialog(&window), win
   layout->addLayout(choices);
 
   progress_ = new QProgressBar(this);
-  progress_->setFormat("Checking links: %v of %m");
   progress_->hide();
   layout->addWidget(progress_);
 
@@ -178,18 +178,10 @@ void LinkHealthWindow::setClientOnly(bool clientOnly) {
 
 void LinkHealthWindow::check() {
   checkAgain_->setEnabled(false);
-  setCursor(Qt::BusyCursor);
-  std::vector<links::LinkRecord> records = links::readLinks(scope());
-  progress_->setRange(0, static_cast<int>(records.size()));
-  progress_->setValue(0);
-  progress_->show();
-  checked_ = links::checkLinks(std::move(records), [this](size_t done, size_t) {
-    progress_->setValue(static_cast<int>(done));
-    // The window repaints; the user's input waits for the end.
-    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
-  });
-  progress_->hide();
-  unsetCursor();
+  {
+    WorkProgress progress(*this, *progress_, "Checking links: %v of %m");
+    checked_ = links::checkLinks(links::readLinks(scope()), progress.callback());
+  }
   checkAgain_->setEnabled(true);
   showResults();
 }
@@ -230,6 +222,7 @@ void LinkHealthWindow::showResults() {
       item->setToolTip(columnState,
                        text(links::linkStateDescription(row.state, row.link.computer)));
       item->setText(columnCategory, text(row.link.categoryPath));
+      item->setToolTip(columnCategory, text(row.link.categoryPath));
       item->setText(columnPath, text(row.link.path));
       item->setToolTip(columnPath, text(row.link.path));
       item->setText(columnComputer, text(row.link.computer));
@@ -240,9 +233,13 @@ void LinkHealthWindow::showResults() {
   tree_->addTopLevelItems(clients);
   for (QTreeWidgetItem* client : clients) client->setFirstColumnSpanned(true);
   tree_->expandAll();
-  tree_->resizeColumnToContents(columnLink);
-  tree_->resizeColumnToContents(columnState);
-  tree_->resizeColumnToContents(columnCategory);
+  // The columns before the path fit their text, each within a quarter of
+  // the view, so that the path keeps room.
+  for (int column : {columnLink, columnState, columnCategory}) {
+    tree_->resizeColumnToContents(column);
+    tree_->setColumnWidth(column,
+                          std::min(tree_->columnWidth(column), tree_->viewport()->width() / 4));
+  }
   const links::StateCounts counts = links::countStates(checked_);
   QString summary = summaryText(counts);
   if (clients.isEmpty())

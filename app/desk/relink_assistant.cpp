@@ -8,10 +8,12 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QProgressBar>
 #include <QPushButton>
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
+#include "app/desk/work_progress.h"
 #include "gui/file_dialogs.h"
 #include "gui/theme_icons.h"
 #include "links/folder_prefix.h"
@@ -83,6 +85,9 @@ RelinkAssistant::RelinkAssistant(const links::LinkScope& scope, const QString& o
   table_->setHeaderLabels({"Link", "Client", "New Path", "File"});
   table_->header()->setSectionResizeMode(2, QHeaderView::Stretch);
   layout->addWidget(table_, 1);
+  progress_ = new QProgressBar(this);
+  progress_->hide();
+  layout->addWidget(progress_);
   status_ = new QLabel(this);
   status_->setObjectName("status");
   status_->setWordWrap(true);
@@ -153,9 +158,10 @@ bool RelinkAssistant::preview() {
     refuse("New folder: " + text(error) + ".");
     return false;
   }
-  setCursor(Qt::BusyCursor);
-  plan_ = links::planRelink(links::readLinks(scope_), from, to);
-  unsetCursor();
+  {
+    WorkProgress progress(*this, *progress_, "Looking at the new places: %v of %m");
+    plan_ = links::planRelink(links::readLinks(scope_), from, to, progress.callback());
+  }
   previewed_ = true;
   showPlan(nullptr);
   return true;
@@ -215,9 +221,11 @@ void RelinkAssistant::apply() {
           .arg(linksText(found), text(plan_.from), text(plan_.to),
                linksText(plan_.rows.size() - found));
   if (!confirm(question)) return;
-  setCursor(Qt::BusyCursor);
-  const std::vector<links::RepointOutcome> outcomes = links::applyRelink(plan_);
-  unsetCursor();
+  std::vector<links::RepointOutcome> outcomes;
+  {
+    WorkProgress progress(*this, *progress_, "Relinking: %v of %m");
+    outcomes = links::applyRelink(plan_, progress.callback());
+  }
   for (links::RepointOutcome outcome : outcomes)
     changed_ = changed_ || outcome == links::RepointOutcome::repointed;
   previewed_ = false;

@@ -14,6 +14,7 @@
 
 class QLabel;
 class QLineEdit;
+class QProgressBar;
 class QPushButton;
 class QTreeWidget;
 
@@ -57,6 +58,7 @@ class RelinkAssistant : public QDialog {
   QLineEdit* oldFolder_ = nullptr;
   QLineEdit* newFolder_ = nullptr;
   QTreeWidget* table_ = nullptr;
+  QProgressBar* progress_ = nullptr;
   QLabel* status_ = nullptr;
   QPushButton* preview_ = nullptr;
   QPushButton* apply_ = nullptr;
