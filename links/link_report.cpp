@@ -191,9 +191,13 @@ void writeLocateReport(std::ostream& out, const LocatePlan& plan,
   out << links(plan.rows.size()) << " looked for: " << once << " found once, " << plan.withSeveral()
       << " found in several places, " << plan.withMatches(0) << " not found; " << plan.filesSeen
       << (plan.filesSeen == 1 ? " file" : " files") << " seen under " << plan.folder;
-  if (plan.foldersSkipped > 0)
+  if (plan.foldersSkipped > 0) {
     out << " (" << plan.foldersSkipped << (plan.foldersSkipped == 1 ? " folder" : " folders")
-        << " could not be read)";
+        << " could not be read";
+    if (plan.foldersNoAnswer > 0)
+      out << ", " << plan.foldersNoAnswer << " of them on a share that did not answer";
+    out << ")";
+  }
   if (outcomes == nullptr) {
     out << ". Nothing was changed";
     if (once > 0) out << "; --apply relinks the " << once << " found once";

@@ -38,10 +38,17 @@ LocatePlan planLocate(const std::vector<CheckedLink>& checked, const std::string
 
   // One walk for all the names, folder by folder. A symbolic link to a
   // folder is not followed; one to a file counts as the file.
+  FileFactsOperation operation;
+  FileFactsService& facts = fileFacts();
   std::vector<fs::path> pending{fs::path(folder)};
   while (!pending.empty()) {
     const fs::path at = std::move(pending.back());
     pending.pop_back();
+    if (facts.facts(at.string()).reach == FileReach::unreachable) {
+      ++plan.foldersSkipped;
+      ++plan.foldersNoAnswer;
+      continue;
+    }
     std::error_code failed;
     fs::directory_iterator entries(at, failed);
     for (; !failed && entries != fs::directory_iterator(); entries.increment(failed)) {

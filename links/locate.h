@@ -4,6 +4,9 @@
 // under a folder. The folder tree is walked once for all the links; symbolic
 // links to files count as files, symbolic links to folders are not followed
 // (a tree can't loop), and folders this user may not read are passed over.
+// Each folder is asked of the file-facts service before it is read, so a
+// share that stops answering midway costs its bounded wait once and its
+// other folders are passed over at once.
 // One match is proposed; several are listed for the user to choose; none is
 // reported. Applying changes the links with one match only.
 
@@ -23,8 +26,9 @@ struct LocateRow {
 struct LocatePlan {
   std::string folder;  // the folder walked, absolute
   std::vector<LocateRow> rows;
-  size_t filesSeen = 0;       // files met in the walk
-  size_t foldersSkipped = 0;  // folders that could not be read
+  size_t filesSeen = 0;        // files met in the walk
+  size_t foldersSkipped = 0;   // folders that could not be read, of which
+  size_t foldersNoAnswer = 0;  // on a share that did not answer
 
   size_t withMatches(size_t count) const;  // rows with exactly count matches
   size_t withSeveral() const;              // rows with more than one

@@ -105,7 +105,8 @@ TEST(LinkReport, RelinkAndLocateBeforeAndAfterTheyWereApplied) {
   links::LocatePlan locate;
   locate.folder = "/archive";
   locate.filesSeen = 120;
-  locate.foldersSkipped = 1;
+  locate.foldersSkipped = 2;
+  locate.foldersNoAnswer = 1;
   locate.rows.push_back(
       {{record(4, 2, -1, "Birch", "Lease", "/old/Lease.docx"), LinkState::folderGone},
        {"/archive/a/Lease.docx", "/archive/b/Lease.docx"}});
@@ -115,20 +116,22 @@ TEST(LinkReport, RelinkAndLocateBeforeAndAfterTheyWereApplied) {
       {{record(6, 2, -1, "Birch", "Will", "/old/Will.pdf"), LinkState::fileGone}, {}});
   std::ostringstream found, relinked;
   links::writeLocateReport(found, locate, nullptr);
-  EXPECT_EQ(found.str(),
-            "several\t4\tBirch\tLease\t/old/Lease.docx\t/archive/a/Lease.docx\n"
-            "several\t4\tBirch\tLease\t/old/Lease.docx\t/archive/b/Lease.docx\n"
-            "found\t5\tBirch\tDeed\t/old/Deed.pdf\t/archive/Deed.pdf\n"
-            "none\t6\tBirch\tWill\t/old/Will.pdf\t\n"
-            "3 links looked for: 1 found once, 1 found in several places, 1 not found; "
-            "120 files seen under /archive (1 folder could not be read). Nothing was changed; "
-            "--apply relinks the 1 found once.\n");
+  EXPECT_EQ(
+      found.str(),
+      "several\t4\tBirch\tLease\t/old/Lease.docx\t/archive/a/Lease.docx\n"
+      "several\t4\tBirch\tLease\t/old/Lease.docx\t/archive/b/Lease.docx\n"
+      "found\t5\tBirch\tDeed\t/old/Deed.pdf\t/archive/Deed.pdf\n"
+      "none\t6\tBirch\tWill\t/old/Will.pdf\t\n"
+      "3 links looked for: 1 found once, 1 found in several places, 1 not found; "
+      "120 files seen under /archive (2 folders could not be read, 1 of them on a share that did "
+      "not answer). Nothing was changed; "
+      "--apply relinks the 1 found once.\n");
   const std::vector<RepointOutcome> located{RepointOutcome::notFound, RepointOutcome::repointed,
                                             RepointOutcome::notFound};
   links::writeLocateReport(relinked, locate, &located);
   EXPECT_NE(relinked.str().find("relinked\t5\tBirch\tDeed\t/old/Deed.pdf\t/archive/Deed.pdf\n"),
             std::string::npos);
-  EXPECT_NE(relinked.str().find("(1 folder could not be read). Relinked 1.\n"), std::string::npos);
+  EXPECT_NE(relinked.str().find("did not answer). Relinked 1.\n"), std::string::npos);
 }
 
 TEST(StructuredText, CsvFieldsAndJsonStrings) {

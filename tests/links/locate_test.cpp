@@ -20,6 +20,7 @@ namespace qb::test {
 namespace {
 
 namespace fs = std::filesystem;
+using links::LinkState;
 using links::RepointOutcome;
 
 class LocateTest : public LinksTest {
@@ -125,14 +126,34 @@ TEST_F(LocateTest, AFolderThatCantBeReadIsPassedOverAndTheFolderIsCheckedFirst) 
   EXPECT_EQ(folder, files.file("archive/open"));
 }
 
-TEST_F(LocateTest, AFolderOnAShareThatHangsIsRefusedAfterItsWait) {
+TEST_F(LocateTest, AShareThatHangsIsRefusedOrPassedOverAfterItsWait) {
+  // A share at /share, and one mounted inside the tree walked; neither
+  // answers.
+  TempFolder& files = db.folder();
+  const std::string archive = files.file("archive");
+  const std::string found = files.writeFile("archive/local/Deed.pdf", "x");
+  files.writeFile("archive/mounted/Deed.pdf", "x");
+  files.writeFile("archive/mounted/inner/Deed.pdf", "x");
   auto share = std::make_shared<FakeFileSystem>();
+  share->mountList.push_back({archive + "/mounted", "cifs", true});
+  share->folders = {archive, archive + "/local"};
   share->hangUnder("/share/");
+  share->hangUnder(archive + "/mounted");
   installFileFacts(std::make_shared<FileFactsService>(share, std::chrono::milliseconds(50)));
+
   std::string folder = "/share/archive", error;
   EXPECT_FALSE(links::checkFolderReachable(folder, error));
   EXPECT_EQ(error,
             "the folder '/share/archive' did not answer: its disk or share can't be reached");
+
+  // The walk passes over the share inside the tree after its wait, says so,
+  // and finds what lies elsewhere.
+  addLink(3, "Deed", files.file("Acme/Deed.pdf"));
+  const links::LocatePlan walked = links::planLocate(
+      {{links::readLinks(links::LinkScope::all()).front(), LinkState::fileGone}}, archive);
+  EXPECT_EQ(matchesOf(walked), "Deed: " + found + "\n");
+  EXPECT_EQ(walked.foldersSkipped, 1u);
+  EXPECT_EQ(walked.foldersNoAnswer, 1u);
   share->release();
   installFileFacts(nullptr);
 }
