@@ -19,6 +19,7 @@
 #include "app/desk/client_picker_dialog.h"
 #include "app/desk/desktop_services.h"
 #include "app/desk/dialog_error_object.h"
+#include "app/desk/link_health_window.h"
 #include "app/desk/lookup_fill_dialog.h"
 #include "app/desk/merge_document_window.h"
 #include "app/desk/merge_fields_window.h"
@@ -100,6 +101,8 @@ void ClientWindow::buildMenus() {
   QAction* open = file->addAction(gui::themeIcon("document-open"), "&Open Database…", this,
                                   [this] { chooseDatabase(); });
   open->setShortcut(QKeySequence::Open);
+  file->addAction(gui::themeIcon("emblem-unreadable"), "&Link Health…", this,
+                  [this] { openLinkHealthWindow(*this); });
   file->addSeparator();
   QAction* quit =
       file->addAction(gui::themeIcon("application-exit"), "&Quit", this, [this] { close(); });
