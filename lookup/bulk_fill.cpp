@@ -35,6 +35,21 @@ int32_t positiveId(DatabaseReference& store, RecordsetHandle list, const char* c
 
 }  // namespace
 
+namespace lookup {
+
+void prepareLookupMerge(clsInsertFieldsInRTB& merge) {
+  merge.setMergeFieldListUse(kLookupFieldListUse);
+  merge.setListType(listTypeCompanyContact);
+  merge.setTestComment(false);
+  merge.setConvertStrToRTF(false);
+  merge.setConvertCompanyNameToContactNameForContacts(false);
+  bool bypassListBox = true;
+  bool clearListbox = true;
+  merge.createDefaultFieldListStructure(bypassListBox, clearListbox);
+}
+
+}  // namespace lookup
+
 void clsLookupFields::populateLookupFieldValuesForAllClients() {
   Procedure proc(lookup::traceName("populateLookupFieldValuesForAllClients"));
   const std::string listSQL = lookup_sql::clientListSQL(lookUpFieldsType_, personalTaxYear_);
@@ -44,16 +59,7 @@ void clsLookupFields::populateLookupFieldValuesForAllClients() {
   const std::string column = lookup_sql::customColumn(number);
 
   clsInsertFieldsInRTB merge;
-  proc.step([&] {
-    merge.setMergeFieldListUse(kLookupFieldListUse);
-    merge.setListType(listTypeCompanyContact);
-    merge.setTestComment(false);
-    merge.setConvertStrToRTF(false);
-    merge.setConvertCompanyNameToContactNameForContacts(false);
-    bool bypassListBox = true;
-    bool clearListbox = true;
-    merge.createDefaultFieldListStructure(bypassListBox, clearListbox);
-  });
+  proc.step([&] { lookup::prepareLookupMerge(merge); });
   // A lookup naming a field the catalogue no longer has writes nothing.
   proc.step([&] {
     FieldListClass table = merge.FieldList();

@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <string>
 
+#include "merge/cls_insert_fields_in_rtb.h"
 #include "services/store/database_reference.h"
 
 namespace qb {
@@ -22,6 +23,10 @@ std::string traceName(const char* procedure);
 // is an object-required failure.
 DatabaseReference* openWhenConnected(Procedure& proc, const std::string& sql, int32_t lockType,
                                      RecordsetHandle& handle);
+
+// Sets merge up as the bulk fill reads a lookup's field: the lookup list use,
+// list type 2, plain text, no name swap, its field table built.
+void prepareLookupMerge(clsInsertFieldsInRTB& merge);
 
 }  // namespace lookup
 }  // namespace qb

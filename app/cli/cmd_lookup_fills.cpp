@@ -4,7 +4,9 @@
 // terminal.
 
 #include "app/cli/lookup_options.h"
+#include "app/cli/merge_field_option.h"
 #include "app/cli/session.h"
+#include "lookup/lookup_services.h"
 
 namespace qb::cli {
 namespace {
@@ -91,10 +93,15 @@ int runClear(Context& context) {
 int runFillAll(Context& context) {
   return runFill(
       context, Run::Lookup,
-      [](clsLookupFields& f, const Arguments& a) { f.setFieldName(a.required("field")); },
+      [](clsLookupFields& f, const Arguments& a) {
+        // The class passes over a field its catalogue lacks; the tool says so,
+        // and takes a display name for its field.
+        clsInsertFieldsInRTB merge;
+        lookup::prepareLookupMerge(merge);
+        f.setFieldName(fieldNameOfOption(merge, a.required("field"), "the lookup fill"));
+      },
       [](clsLookupFields& f) { f.populateLookupFieldValuesForAllClients(); },
-      "the family has no rows, or the merge fields have no field of that name (quillbox "
-      "fields --list-type 2 lists them)");
+      "the family has no rows");
 }
 
 const CommandRegistration kClientRepeater(Command{
@@ -171,17 +178,18 @@ const CommandRegistration kClear(Command{
 const CommandRegistration kFillAll(Command{
     "lookup fill-all",
     "fill a lookup column with a merge field's value for every client",
-    lookupHelp("lookup fill-all --db FILE --family N --custom N --field NAME [--tax-year Y]",
-               "Fills the custom column of every row with the merge field's value for the\n"
-               "row's client: client after client, each merged as a letter to that client\n"
-               "would be (a company with its default contact), each value committed as it\n"
-               "is written. A run that is stopped leaves every row with its old or its new\n"
-               "value; running it again completes the fill. Personal tax rows are those of\n"
-               "the tax year. Prints nothing; a progress bar shows on standard error when\n"
-               "it is a terminal.",
-               std::string("  --field NAME       the merge field's name (quillbox fields, second "
-                           "column)\n") +
-                   kTaxYearHelp),
+    lookupHelp(
+        "lookup fill-all --db FILE --family N --custom N --field NAME [--tax-year Y]",
+        "Fills the custom column of every row with the merge field's value for the\n"
+        "row's client: client after client, each merged as a letter to that client\n"
+        "would be (a company with its default contact), each value committed as it\n"
+        "is written. A run that is stopped leaves every row with its old or its new\n"
+        "value; running it again completes the fill. Personal tax rows are those of\n"
+        "the tax year. Prints nothing; a progress bar shows on standard error when\n"
+        "it is a terminal.",
+        std::string("  --field NAME       the merge field's name or display name (quillbox fields\n"
+                    "                     --list-type 2 --use 4: second or third column)\n") +
+            kTaxYearHelp),
     {"db", "family", "custom", "field", "tax-year"},
     {},
     runFillAll,

@@ -126,11 +126,23 @@ TEST_F(LookupCommands, FillAllAndClearWriteEveryClientsRows) {
   EXPECT_EQ(scalar("SELECT group_concat(COALESCE(Custom1, 'null'), '|') FROM PersonalTaxStatus "
                    "WHERE TaxYear = 2024;"),
             "|||");
-  // A field the merge does not know writes nothing and says so.
+  // A field the merge does not know is refused before anything is written;
+  // a display name stands for its field.
+  const std::string projects = scalar("SELECT group_concat(Custom3, '|') FROM CompanyProjects;");
   const ToolRun unknown = run({"lookup", "fill-all", "--db", db_, "--family", "3", "--custom", "3",
                                "--field", "NoSuchField"});
-  EXPECT_EQ(unknown.status, 0);
-  EXPECT_NE(unknown.err.find("nothing written"), std::string::npos);
+  EXPECT_EQ(unknown.status, 1);
+  EXPECT_EQ(unknown.firstError(),
+            "quillbox: the field list of these items has no field named 'NoSuchField' (quillbox "
+            "fields lists them: field names in the second column, display names in the third)");
+  EXPECT_EQ(scalar("SELECT group_concat(Custom3, '|') FROM CompanyProjects;"), projects);
+  ASSERT_EQ(run({"lookup", "fill-all", "--db", db_, "--family", "3", "--custom", "3", "--field",
+                 "Company Name"})
+                .status,
+            0);
+  EXPECT_EQ(scalar("SELECT count(*) FROM CompanyProjects p JOIN Companies c ON c.CompanyID = "
+                   "p.CompanyIDNum WHERE p.Custom3 = c.CompanyName;"),
+            scalar("SELECT count(*) FROM CompanyProjects WHERE CompanyIDNum >= 1;"));
   EXPECT_EQ(run({"lookup", "fill-all", "--db", db_, "--family", "1", "--custom", "1"}).status, 2);
 }
 
