@@ -10,7 +10,10 @@
 #include <QWindow>
 #include <cstdlib>
 
+#include "app/desk/desktop_services.h"
+#include "gui/form_dialogs.h"
 #include "gui/theme_icons.h"
+#include "services/controls/form.h"
 #include "services/store/sample_firm.h"
 
 // The desktop's font library keeps its caches for the life of the process,
@@ -123,6 +126,13 @@ void DeskTest::clickCategory(const std::string& text) {
   ASSERT_NE(item, nullptr);
   tree.scrollToItem(item);
   click(*tree.viewport(), tree.visualItemRect(item).center());
+}
+
+void DeskTest::whenDialogShows(std::function<void(QDialog&, Form&)> act) {
+  window_->desktop().formDialogs().setShownHook([act](QDialog& dialog, Form& form) {
+    act(dialog, form);
+    if (form.Visible()) form.userClose();
+  });
 }
 
 void DeskTest::screenshot(const std::string& name) {
