@@ -3,7 +3,7 @@ BUILD ?= build
 JOBS ?= $(shell nproc)
 CMAKE_FLAGS ?=
 
-.PHONY: all deps configure build run test test-sanitize bench clean sample install package
+.PHONY: all deps configure build run test test-sanitize fuzz bench clean sample install package
 
 all: build
 
@@ -31,6 +31,15 @@ test-sanitize: deps
 	cmake --build $(BUILD)-asan -j $(JOBS)
 	cd $(BUILD)-asan && ctest --output-on-failure -j $(JOBS)
 
+# The fuzz targets of tests/fuzz/, built with clang (libFuzzer and the
+# sanitizers) and each run FUZZ_SECONDS from its seed corpus.
+FUZZ_SECONDS ?= 60
+fuzz: deps
+	cmake -S . -B $(BUILD)-fuzz -DCMAKE_BUILD_TYPE=RelWithDebInfo -DCMAKE_CXX_COMPILER=clang++ \
+	  -DQB_FUZZ=ON -DQB_BUILD_GUI=OFF -DQB_BUILD_BENCH=OFF
+	cmake --build $(BUILD)-fuzz -j $(JOBS)
+	bash scripts/fuzz.sh $(BUILD)-fuzz $(FUZZ_SECONDS)
+
 # Installs the programs, the desktop entry, the icon and the manual page
 # under PREFIX (DESTDIR is honoured too).
 PREFIX ?= /usr/local
@@ -45,4 +54,4 @@ bench: build
 	$(BUILD)/quillbox_bench
 
 clean:
-	rm -rf $(BUILD) $(BUILD)-asan
+	rm -rf $(BUILD) $(BUILD)-asan $(BUILD)-fuzz

@@ -28,7 +28,7 @@
 #include "services/host/recording_message_object.h"
 #include "services/host/working_folder.h"
 #include "services/quillbox/doc_quillbox_category_class.h"
-#include "services/store/sample_firm.h"
+#include "sample/sample_firm.h"
 #include "services/store/sqlite_database.h"
 #include "services/util/file_utilities_class.h"
 

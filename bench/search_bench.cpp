@@ -17,7 +17,7 @@
 #include "services/host/locale_reference.h"
 #include "services/host/module_state.h"
 #include "services/host/recording_message_object.h"
-#include "services/store/sample_firm.h"
+#include "sample/sample_firm.h"
 #include "services/store/sqlite_database.h"
 #include "services/util/file_utilities_class.h"
 #include "services/util/general_utilities_class.h"

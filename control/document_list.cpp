@@ -57,7 +57,13 @@ void nvDocumentQuillbox::setupDocumentsDisplay() {
 
   Node* node = nullptr;
   proc.step([&] { node = tvClientDocumentation_.SelectedItem(); });
-  if (node != nullptr) {
+  // A node whose key is not a category's is left alone, as every operation
+  // on a node leaves it.
+  bool isCategory = false;
+  proc.step([&] {
+    isCategory = node != nullptr && InStr(node->Key(), kCategoryKey, CompareMode::Text) > 0;
+  });
+  if (isCategory) {
     bool loaded = false;
     proc.step([&] { objectOf(category_).setCategoryID(categoryIDFromKey(node->Key())); });
     proc.step([&] {

@@ -44,7 +44,10 @@ void clearAddressFields(AddressRecord& address) {
 std::string convertToRTF(std::string text) {
   Procedure proc(traceName("convertToRTF"));
   std::string result;
-  proc.step([&] { result = Replace(toRtfEscapes(text), "\r\n", "\r\n\\par ", CompareMode::Text); });
+  // A bare CR or LF is a line break as CR LF is.
+  proc.step([&] {
+    result = Replace(toRtfEscapes(rtf::withCrLf(text)), "\r\n", "\r\n\\par ", CompareMode::Text);
+  });
   return result;
 }
 

@@ -44,6 +44,7 @@ void saveContactBusinessRTFForAllCompanies(int32_t contactID, int32_t companyID,
             db->findRecord(companyNotes, "CompanyNum", linkedCompany)) {
           std::string text;
           int32_t otherCompany = CLng(Variant(linkedCompany));
+          FailureWatch composing;
           if (otherCompany != companyID) {
             // That company's view: its default-contact line and inherited
             // address. This also rewrites the contact's own BusinessNotes, so
@@ -54,7 +55,7 @@ void saveContactBusinessRTFForAllCompanies(int32_t contactID, int32_t companyID,
           } else {
             text = rtfText;
           }
-          db->updateFieldValue(companyNotes, "ContactNotes", text);
+          if (!composing.sawFailure()) db->updateFieldValue(companyNotes, "ContactNotes", text);
         }
       }
       db->moveNextRecord(links);
@@ -85,6 +86,7 @@ void saveCompanyContactRTF(int32_t companyID, int32_t contactID) {
   proc.step([&] {
     if (!db->moveFirstRecord(companyNotes)) return;  // no notes row: nothing is added
     std::string text;
+    FailureWatch composing;
     if (contactID >= 0) {
       int32_t contact = contactID;
       int32_t noEmployee = -1;
@@ -93,7 +95,8 @@ void saveCompanyContactRTF(int32_t companyID, int32_t contactID) {
     } else {
       text = saveNoDefaultComment();
     }
-    db->updateFieldValue(companyNotes, "ContactNotes", text);
+    // A summary a failure left incomplete keeps the stored one in place.
+    if (!composing.sawFailure()) db->updateFieldValue(companyNotes, "ContactNotes", text);
   });
   proc.step([&] { db->closeRecordset(companyNotes); });
 }

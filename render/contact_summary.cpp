@@ -105,7 +105,7 @@ class Summary {
   void fieldRows(RecordsetHandle person, const std::vector<FieldRow>& rows) {
     for (const FieldRow& row : rows) {
       if (fieldBlank(*db_, person, row.column)) continue;
-      line(row.label + rtf::storedText(fieldText(*db_, person, row.column)));
+      line(row.label + rtf::storedLine(fieldText(*db_, person, row.column)));
     }
   }
 
@@ -118,7 +118,7 @@ class Summary {
       while (!db_->isEndOfRecordset(links)) {
         if (!fieldBlank(*db_, links, names.column)) {
           ++count;
-          list += rtf::storedText(fieldText(*db_, links, names.column)) + rtf::kLineEnd;
+          list += rtf::storedLine(fieldText(*db_, links, names.column)) + rtf::kLineEnd;
         }
         db_->moveNextRecord(links);
       }
@@ -156,6 +156,7 @@ std::string saveContactBusinessRTF(int32_t& contactID, int32_t& employeeID, int3
   RecordsetHandle customFields = 0;
   RecordsetHandle contactNotes = 0;
   Summary summary(db.get());
+  FailureWatch composing;
 
   proc.step([&] {
     if (!render::connected(proc, db)) proc.leave();
@@ -257,7 +258,7 @@ std::string saveContactBusinessRTF(int32_t& contactID, int32_t& employeeID, int3
       summary.text += "\\b\\pard\\fi0\\li0\\ri0 Address:\\b0\\par\r\n";
     } else {
       summary.text += "\\b\\pard\\fi0\\li0\\ri0 Address (" +
-                      rtf::storedText(fieldText(*db, person, "AltAddressName")) + "):\\b0\\par\r\n";
+                      rtf::storedLine(fieldText(*db, person, "AltAddressName")) + "):\\b0\\par\r\n";
     }
     summary.line(block);
   });
@@ -279,8 +280,8 @@ std::string saveContactBusinessRTF(int32_t& contactID, int32_t& employeeID, int3
       std::string column = "Custom" + std::to_string(n);
       if (fieldBlank(*db, person, column.c_str())) continue;
       std::string labelColumn = "ContactLabel" + std::to_string(n);
-      summary.line("\\b " + rtf::storedText(fieldText(*db, customFields, labelColumn.c_str())) +
-                   "\\b0  " + rtf::storedText(fieldText(*db, person, column.c_str())));
+      summary.line("\\b " + rtf::storedLine(fieldText(*db, customFields, labelColumn.c_str())) +
+                   "\\b0  " + rtf::storedLine(fieldText(*db, person, column.c_str())));
     }
     summary.endSection();
   });
@@ -304,8 +305,13 @@ std::string saveContactBusinessRTF(int32_t& contactID, int32_t& employeeID, int3
     result = summary.text;
   });
 
-  // Store it beside the person. A new notes row is given no ContactNum.
+  // Store it beside the person. A new notes row is given no ContactNum. A
+  // summary that a failure (reported already) left incomplete is not stored
+  // over the one there, nor copied.
+  bool complete = false;
+  proc.step([&] { complete = !composing.sawFailure(); });
   proc.step([&] {
+    if (!complete) return;
     if (isEmployee) {
       db->updateFieldValue(person, "BusinessNotes", result);
     } else if (db->moveFirstRecord(contactNotes)) {
@@ -317,7 +323,7 @@ std::string saveContactBusinessRTF(int32_t& contactID, int32_t& employeeID, int3
     }
   });
   proc.step([&] {
-    if (!isEmployee && !skipOtherCompanies) {
+    if (complete && !isEmployee && !skipOtherCompanies) {
       saveContactBusinessRTFForAllCompanies(contactID, companyID, result);
     }
   });

@@ -4,12 +4,19 @@
 // Where stored values are escaped: the system's own control words (\par, \b,
 // the label indents, the header) are written as they stand; a value read from
 // the store is escaped once, at the point where it is appended to text that
-// will be RTF, by storedText(): "\", "{" and "}" become "\\", "\{" and "\}",
-// and every character outside ASCII becomes an RTF escape of code page 1252
-// (the header declares it). convertToRTF also turns characters outside ASCII
-// into escapes, which is harmless on text already escaped, so that a caller's
-// plain text reads correctly too; it never touches "\", "{" or "}", because it
-// is also applied to text that already holds control words.
+// will be RTF: "\", "{" and "}" become "\\", "\{" and "\}", every character
+// outside ASCII becomes an RTF escape of code page 1252 (the header declares
+// it), a tab becomes \tab and every other control character (a NUL, an ESC)
+// is dropped, since RTF readers cut a text at a NUL. A line break inside a
+// value (CR LF, or a bare CR or LF) stays a line break: in a text whose line
+// breaks become paragraphs (an address block, the notes: storedText) it is
+// written as the text's own CR LF; in a value that stands on one line of a
+// summary (storedLine) it is the line break \line.
+//
+// convertToRTF also turns characters outside ASCII into escapes, which is
+// harmless on text already escaped, so that a caller's plain text reads
+// correctly too; it never touches "\", "{" or "}", because it is also applied
+// to text that already holds control words.
 
 #include <string>
 
@@ -24,7 +31,15 @@ inline constexpr const char* kDocumentHeader =
 // The end of a line of a summary: the paragraph mark and a line break.
 inline constexpr const char* kLineEnd = "\\par\r\n";
 
-// A stored value as RTF text: "\", "{", "}" escaped, non-ASCII as escapes.
+// A stored value as RTF text whose line breaks are CR LF, for a text that
+// convertToRTF turns into paragraphs.
 std::string storedText(const std::string& value);
+
+// A stored value as RTF text for one line of a summary: its line breaks are
+// \line.
+std::string storedLine(const std::string& value);
+
+// The text with every bare CR or LF made a CR LF.
+std::string withCrLf(const std::string& text);
 
 }  // namespace qb::rtf

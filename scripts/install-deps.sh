@@ -11,6 +11,7 @@ packages=(
   libgtest-dev googletest
   libbenchmark-dev
   unrtf
+  clang libclang-rt-dev
   adwaita-icon-theme hicolor-icon-theme
   fonts-dejavu-core
   # The icons the program ships (taken from the installed set at build

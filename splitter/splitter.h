@@ -8,6 +8,8 @@
 // MouseUp on picSplitter with coordinates relative to the bar, in twips.
 //
 // Every property setter reports the change by name through PropertyChanged.
+// Every procedure follows the error convention (a failure goes to its own
+// handler; nothing throws out of the control).
 // The setters' rules are the control's own and are kept as they stand,
 // including the lopsided pair SplitterMax / SplitterMin.
 

@@ -15,7 +15,7 @@ namespace {
 
 std::string composeSql(const Arguments& args) {
   return modDatabaseFunctions::getMainBusinessSQLString(
-      args.has("show-only"), args.requiredId("status"), args.id("client-data", -1));
+      args.has("show-only"), args.number("status", 0), args.id("client-data", -1));
 }
 
 // Without a database: only the locale and an error object are needed.
@@ -31,11 +31,13 @@ int printSqlOnly(Context& context) {
   std::string sql = composeSql(context.args);
   resetModuleState();
   context.out << sql << "\n";
-  return errors->failureCount() > 0 ? 1 : 0;
+  context.failureRecorded = errors->failureCount() > 0;
+  return context.failureRecorded ? 1 : 0;
 }
 
 int runClientSql(Context& context) {
-  context.args.requiredId("status");
+  context.args.required("status");
+  context.args.number("status", 0);
   context.args.id("client-data", -1);
   if (!context.args.has("db")) return printSqlOnly(context);
 

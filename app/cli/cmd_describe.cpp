@@ -5,7 +5,8 @@
 #include <iomanip>
 
 #include "app/cli/command.h"
-#include "services/store/sample_firm.h"
+#include "app/cli/session.h"
+#include "sample/sample_firm.h"
 
 namespace qb::cli {
 namespace {
@@ -13,7 +14,8 @@ namespace {
 int runDescribe(Context& context) {
   const Arguments& args = context.args;
   std::string path = args.required("db");
-  auto counts = tableRowCounts(path);
+  Session session(context);
+  auto counts = tableRowCounts(session.store());
   context.out << "Database: " << std::filesystem::absolute(path).lexically_normal().string()
               << "\n";
   std::string files = args.value("files", defaultFilesFolder(path));

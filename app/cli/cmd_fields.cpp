@@ -43,14 +43,14 @@ int runFields(Context& context) {
   if (args.has("list-box") && args.has("firm-list-box")) {
     throw UsageError("give --list-box or --firm-list-box, not both");
   }
-  const int32_t use = args.id("use", fieldListUseMerge);
+  const int32_t use = args.number("use", fieldListUseMerge);
   const int32_t companyID = args.id("company", -1);
   const int32_t contactID = args.id("contact", -1);
   const int32_t appointmentID = args.id("appointment", -1);
   const int32_t taskID = args.id("task", -1);
   const int32_t docketID = args.id("docket", -1);
   const bool listTypeGiven = args.has("list-type");
-  const int32_t listType = args.id("list-type", 0);
+  const int32_t listType = args.number("list-type", 0);
 
   Session session(context, Session::Database::Optional);
   ListBox clientList("lstClientFields");

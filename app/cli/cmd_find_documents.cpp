@@ -13,7 +13,7 @@ constexpr const char* kBlankText = "You must enter a search criteria in the 'Sea
 int runFindDocuments(Context& context) {
   const Arguments& args = context.args;
   const std::string text = args.required("text");
-  const int32_t field = args.id("field", 0);
+  const int32_t field = args.number("field", 0);
   if (field < 0 || field > 4) throw UsageError("--field takes 0, 1, 2, 3 or 4");
   const int scopes = args.has("company") + args.has("contact") + args.has("all");
   if (scopes > 1) throw UsageError("give one of --company N, --contact N and --all");

@@ -2,10 +2,9 @@
 // a generated firm.
 
 #include <filesystem>
-#include <stdexcept>
 
 #include "app/cli/command.h"
-#include "services/store/sample_firm.h"
+#include "sample/new_database.h"
 
 namespace qb::cli {
 namespace {
@@ -13,23 +12,27 @@ namespace {
 int runInit(Context& context) {
   const Arguments& args = context.args;
   std::string path = args.required("db");
+  NewDatabase options;
   bool sample = args.has("sample");
   bool generate = args.has("generate");
   if (sample && generate) throw UsageError("give --sample or --generate N, not both");
-  int32_t clients = args.id("generate", 0);
-  if (generate && clients < 0) throw UsageError("--generate takes a number of clients, 0 or more");
-  std::string files = args.value("files", defaultFilesFolder(path));
-
-  if (!args.has("force") && std::filesystem::exists(path)) {
-    throw std::runtime_error(path + " exists already; give --force to replace it");
+  options.clients = args.number("generate", 0);
+  if (generate && (options.clients < 0 || options.clients > kMaxGeneratedClients)) {
+    throw UsageError("--generate takes a number of clients from 0 to " +
+                     std::to_string(kMaxGeneratedClients) + ", not " + args.value("generate"));
   }
-  createDatabase(path, args.has("force"));
+  options.content = sample     ? NewDatabase::Content::Sample
+                    : generate ? NewDatabase::Content::Generated
+                               : NewDatabase::Content::Empty;
+  options.filesFolder = args.value("files", defaultFilesFolder(path));
+  options.replace = args.has("force");
+
+  FirmSummary made = makeDatabase(path, options);
   context.out << "Created " << std::filesystem::absolute(path).lexically_normal().string() << "\n";
   if (!sample && !generate) {
     context.out << "The database holds the schema and no rows.\n";
     return 0;
   }
-  FirmSummary made = sample ? fillSampleFirm(path, files) : generateFirm(path, files, clients);
   context.out << (sample ? "Sample firm: " : "Generated firm: ") << made.companies
               << " client companies, " << made.contacts << " contacts, " << made.categories
               << " document categories, " << made.documents << " document links\n"
@@ -43,6 +46,8 @@ const CommandRegistration kRegistration(Command{
     "Usage: quillbox init --db FILE [--sample | --generate N] [--files DIR] [--force]\n"
     "\n"
     "Creates a new client database with the whole schema and prints what it made.\n"
+    "The database is built under a temporary name beside FILE and takes its place\n"
+    "only when it is complete: a failure leaves no database behind.\n"
     "\n"
     "  --db FILE       the database file to create (its folders are created too)\n"
     "  --sample        fill in the sample firm: a Canadian accounting firm with its\n"
@@ -54,11 +59,14 @@ const CommandRegistration kRegistration(Command{
     "  --generate N    fill in a generated firm of N client companies, two contacts\n"
     "                  each, with categories and links to 200 shared files in the\n"
     "                  files folder's \"bulk\" folder; client 1 also has the category\n"
-    "                  \"Bulk Archive\" of 5,000 links (for benchmarks)\n"
-    "  --files DIR     the files folder (default: \"<db name>-files\" beside the database)\n"
-    "  --force         replace the database file if it exists (otherwise that is an error)\n"
-    "\n"
-    "Without --sample or --generate the database is left empty.\n",
+    "                  \"Bulk Archive\" of 5,000 links (for benchmarks); at most " +
+        std::to_string(kMaxGeneratedClients) +
+        "\n"
+        "  --files DIR     the files folder (default: \"<db name>-files\" beside the database)\n"
+        "  --force         replace the database file if it exists (otherwise that is an error);\n"
+        "                  refused while another program has it open or locked\n"
+        "\n"
+        "Without --sample or --generate the database is left empty.\n",
     {"db", "generate", "files"},
     {"sample", "force"},
     runInit,

@@ -13,7 +13,7 @@ int runName(Context& context) {
   int32_t relatedID = args.id("related", -1);
   bool showRelationship = args.has("show-relationship");
   bool byType = args.has("type");
-  int32_t type = args.id("type", 0);
+  int32_t type = args.number("type", 0);
   Session session(context);
   std::string name = byType ? modDatabaseFunctions::getContactNameDisplayedByType(
                                   type, contactID, relatedID, showRelationship)

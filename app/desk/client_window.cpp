@@ -1,6 +1,7 @@
 #include "app/desk/client_window.h"
 
 #include <QActionGroup>
+#include <QApplication>
 #include <QCloseEvent>
 #include <QCoreApplication>
 #include <QDir>
@@ -8,6 +9,9 @@
 #include <QFileInfo>
 #include <QLabel>
 #include <QMenuBar>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QStandardPaths>
 #include <QStatusBar>
 #include <QVBoxLayout>
 #include <iostream>
@@ -25,6 +29,7 @@
 #include "gui/theme_icons.h"
 #include "gui/user_control_host.h"
 #include "gui/widget_owner_form.h"
+#include "sample/new_database.h"
 #include "services/host/locale_reference.h"
 #include "services/host/module_state.h"
 #include "services/host/working_folder.h"
@@ -78,11 +83,12 @@ ClientWindow::ClientWindow(const DeskOptions& options, QWidget* parent)
   const QString database = options_.databasePath.empty()
                                ? lastDatabase()
                                : QString::fromStdString(options_.databasePath);
-  if (!database.isEmpty()) {
-    openDatabase(database);
-  } else {
+  if (database.isEmpty()) {
     statusBar()->showMessage("No client database is open: File ▸ Open Database… opens one.");
+    return;
   }
+  QString reason;
+  if (!hostDatabase(database, reason)) offerAnotherDatabase(database, reason);
 }
 
 ClientWindow::~ClientWindow() { releaseComponent(); }
@@ -134,16 +140,27 @@ void ClientWindow::buildMenus() {
 }
 
 bool ClientWindow::openDatabase(const QString& path) {
-  releaseComponent();
+  QString reason;
+  if (hostDatabase(path, reason)) return true;
+  const bool keeping = component_ != nullptr;
+  messages_->showMessage(
+      (reason + (keeping ? "\n\nThe database open now stays open." : QString())).toStdString(), 3,
+      nullptr);
+  return false;
+}
+
+bool ClientWindow::hostDatabase(const QString& path, QString& reason) {
+  // The new file is opened before the open one is let go, so that a file
+  // that can't be opened leaves the window as it was.
   auto store = std::make_shared<SqliteDatabase>();
   try {
-    if (!QFileInfo::exists(path)) throw std::runtime_error("no such file");
     store->open(path.toStdString());
   } catch (const std::exception& failure) {
-    statusBar()->showMessage(QString("Can't open %1: %2").arg(path, failure.what()));
-    updateTitle();
+    reason = QString::fromStdString(failure.what());
+    statusBar()->showMessage(QString("Can't open %1: %2").arg(path, reason.section('\n', 0, 0)));
     return false;
   }
+  releaseComponent();
   store_ = store;
   folder_ = std::make_shared<FixedWorkingFolder>(QFileInfo(path).absolutePath().toStdString());
   locale_ = std::make_shared<FixedLocale>();
@@ -302,6 +319,56 @@ void ClientWindow::chooseDatabase() {
   const QString& path = chosen.first();
   if (component_) component_->putDocQuillboxListViewSettings();
   openDatabase(path);
+}
+
+void ClientWindow::offerAnotherDatabase(const QString& path, const QString& reason) {
+  const QString text = QString("The client database \"%1\" can't be opened.").arg(path);
+  if (options_.unattended) {
+    messages_->showMessage((text + "\n" + reason).toStdString(), 3, nullptr);
+    return;
+  }
+  QMessageBox box(QMessageBox::Critical, kProduct, text, QMessageBox::NoButton, this);
+  box.setInformativeText(reason.section('\n', 0, 0));
+  box.setDetailedText(reason);
+  QPushButton* another = box.addButton("&Open Another Database…", QMessageBox::AcceptRole);
+  QPushButton* sample = box.addButton("&Create the Sample Database", QMessageBox::ActionRole);
+  box.addButton("Continue &Without", QMessageBox::RejectRole);
+  box.setDefaultButton(another);
+  box.exec();
+  if (box.clickedButton() == another) {
+    chooseDatabase();
+  } else if (box.clickedButton() == sample) {
+    createSampleDatabase(path);
+  }
+}
+
+bool ClientWindow::createSampleDatabase(const QString& path) {
+  // A file that is there is never replaced: the sample goes beside the user's
+  // data then, made once.
+  QString target = path;
+  if (path.isEmpty() || QFileInfo::exists(path)) {
+    const QString data = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
+    QDir().mkpath(data);
+    target = data + "/quillbox-sample.db";
+  }
+  if (!QFileInfo::exists(target)) {
+    QApplication::setOverrideCursor(Qt::BusyCursor);
+    QString failure;
+    try {
+      NewDatabase sample;
+      sample.content = NewDatabase::Content::Sample;
+      sample.filesFolder = defaultFilesFolder(target.toStdString());
+      makeDatabase(target.toStdString(), sample);
+    } catch (const std::exception& error) {
+      failure = QString::fromStdString(error.what());
+    }
+    QApplication::restoreOverrideCursor();
+    if (!failure.isEmpty()) {
+      messages_->showMessage(failure.toStdString(), 3, nullptr);
+      return false;
+    }
+  }
+  return openDatabase(target);
 }
 
 void ClientWindow::listChanged() {

@@ -39,15 +39,20 @@ class DialogErrorObject;
 
 class ClientWindow : public QMainWindow {
  public:
-  // Opens options.databasePath and shows the starting client; a database
-  // that can't be opened leaves the window empty with the reason in the
-  // status bar.
+  // Opens options.databasePath and shows the starting client. A database
+  // that can't be opened leaves the window empty, and a message box says why
+  // and offers to open another database or to create the sample one.
   explicit ClientWindow(const DeskOptions& options, QWidget* parent = nullptr);
   ~ClientWindow() override;
 
   // Hosts the component afresh over another database file. False when the
-  // file can't be opened (the window is then empty).
+  // file can't be opened: a message box says why, and the database open
+  // before stays open with the window as it was.
   bool openDatabase(const QString& path);
+  // Makes the sample firm's database and opens it: at path when nothing is
+  // there, else beside the user's data (quillbox-sample.db, made once). False
+  // when it can't be made or opened (a message box says why).
+  bool createSampleDatabase(const QString& path);
   // Shows the client at a place of the roster: writes its id to the
   // component, then fills the tree and the list. Out of range does nothing.
   void showClient(int index);
@@ -75,6 +80,10 @@ class ClientWindow : public QMainWindow {
 
  private:
   void buildMenus();
+  // Opens path and hosts the component over it; reason says why not (the
+  // window is then as it was).
+  bool hostDatabase(const QString& path, QString& reason);
+  void offerAnotherDatabase(const QString& path, const QString& reason);
   void buildDocumentMenu();
   void hostComponent();
   void releaseComponent();

@@ -10,6 +10,17 @@ namespace qb {
 
 void ExitProgram() {}
 
+namespace {
+
+// The failures reported on this thread, for FailureWatch.
+thread_local uint64_t reportedFailures = 0;
+
+}  // namespace
+
+FailureWatch::FailureWatch() : start_(reportedFailures) {}
+
+bool FailureWatch::sawFailure() const { return reportedFailures != start_; }
+
 Procedure::Procedure(std::string traceName, Mode mode)
     : traceName_(std::move(traceName)), mode_(mode), errorObject_(moduleState().errorClass.get()) {
   if (errorObject_ == nullptr) return;
@@ -53,6 +64,7 @@ void Procedure::handle(const RuntimeError& error) {
     leaving_ = true;
     return;
   }
+  ++reportedFailures;
   int32_t response = 0;
   try {
     RuntimeError sourced(error.number(), error.description(),

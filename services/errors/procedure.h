@@ -75,4 +75,18 @@ class Procedure {
   std::vector<int32_t> ignored_;
 };
 
+// Tells whether a failure was reported (to the error object, and so to the
+// user) on this thread since the watch began, in whatever procedure. A
+// procedure that composes a text through others and then stores it asks
+// before it writes: a text left incomplete by a failure is not stored over
+// the one there, so every stored value stays the old or the new one.
+class FailureWatch {
+ public:
+  FailureWatch();
+  bool sawFailure() const;
+
+ private:
+  uint64_t start_;
+};
+
 }  // namespace qb

@@ -711,3 +711,10 @@ CREATE TABLE IF NOT EXISTS UserCalendarSettings (
   TaskTemplate TEXT,
   TaskTitleBarText TEXT
 );
+
+-- ---------------------------------------------------------------------------
+-- The mark of a client database: the application id says the file is ours,
+-- the user version which schema it holds. The store refuses to open a file
+-- without them. (schema.h gives the same two numbers to the code.)
+PRAGMA application_id = 1363300184;
+PRAGMA user_version = 1;

@@ -1,6 +1,6 @@
 #pragma once
-// The store's SQLite connection: opening the file with the journal that suits
-// where it lies, the caches of prepared statements, the tables met so far with
+// The store's SQLite connection: opening a client database file (and only
+// such a file), the caches of prepared statements, the tables met so far with
 // a count of the writes made to each, and the write transaction.
 
 #include <sqlite3.h>
@@ -21,14 +21,13 @@ namespace qb::sqlite {
 
 struct QueryShape;
 
-// True for the file system types on which WAL can't work: NFS, SMB, CIFS,
-// SMB2 and FUSE (sshfs and its kind).
-bool isNetworkFileSystem(const std::string& path);
-
 class Connection {
  public:
   // Opens the file; fails with a RuntimeError (kStoreError) when it is
-  // missing (unless options.create), can't be opened or is no database.
+  // missing (unless options.create), can't be opened or read, or is no
+  // client database (empty, not SQLite, without the mark of the schema).
+  // Only a file made here (options.create on a missing or empty file) gets
+  // its journal chosen; an existing file is not changed by opening it.
   Connection(const std::string& path, const SqliteDatabase::Options& options);
   ~Connection();
   Connection(const Connection&) = delete;
@@ -76,13 +75,22 @@ class Connection {
   void commitWrite();
   void rollbackWrite();
   void exec(const char* sql, const std::string& context);
-  void setJournal(const std::string& path);
+  // The first column of the first row of a statement, as text.
+  std::string textOf(const char* sql, const std::string& context);
+  void checkMark();
+  void setJournal(bool created);
 
   sqlite3* db_ = nullptr;
   std::string path_;
   std::string journalMode_;
   int busyTimeoutMs_ = 5000;
   bool readOnly_ = false;
+  bool mayNotWrite_ = false;  // read-only because the user may not write the file
+  struct FileId {
+    bool known = false;
+    uint64_t device = 0;
+    uint64_t inode = 0;
+  } fileId_;  // the file opened, to tell when its path names another
   LruCache<QueryShape> shapes_{256};
   LruCache<Statement> statements_{128};
   NameMap<int> tableIds_;  // by name in any case

@@ -109,7 +109,7 @@ RecordsetHandle SqliteDatabase::openRecordset(const std::string& sqlText, int32_
       recordset = std::make_unique<sqlite::Recordset>(connection, connection.shapeOf(keyed.text),
                                                       keyed.keys, lockType != adLockReadOnly);
     } catch (const RuntimeError& failure) {
-      throw RuntimeError(failure.number(), failure.description() + " SQL: " + sqlText);
+      throw RuntimeError(failure.number(), failure.description() + "\nSQL: " + sqlText);
     }
     RecordsetHandle handle = impl_->freeHandle();
     impl_->recordsets.emplace(handle, std::move(recordset));

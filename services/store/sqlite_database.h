@@ -9,9 +9,9 @@
 // field write is committed at once (BEGIN IMMEDIATE ... COMMIT) and reads back
 // on the same recordset; other recordsets open on the same rows read it too.
 //
-// Journal: WAL with synchronous=NORMAL on a local disk, the rollback journal
-// on a network file system; a busy database is waited on for busyTimeoutMs and
-// then reported as a failure.
+// Journal: chosen when the file is made, WAL with synchronous=NORMAL on a
+// local disk, the rollback journal on a network file system; a busy database
+// is waited on for busyTimeoutMs and then reported as a failure.
 
 #include <memory>
 #include <string>
@@ -26,13 +26,19 @@ class SqliteDatabase : public DatabaseReference {
     int busyTimeoutMs = 5000;
     bool create = false;    // create the file when it does not exist
     bool readOnly = false;  // open for reading only (also chosen when the file can't be written)
+    std::string vfs;        // the SQLite VFS to use, by name; "" the default
   };
 
   SqliteDatabase();
   ~SqliteDatabase() override;
 
-  // Opens the database file; fails with a RuntimeError when the file is
-  // missing (unless options.create) or can't be opened.
+  // Opens the database file; fails with a RuntimeError whose first line says
+  // what is wrong and what to do when the file is missing (unless
+  // options.create), can't be opened or read, or is no client database: an
+  // empty file, a file that is not SQLite, or a SQLite file without the mark
+  // schema.sql sets. Such a file is left as it was. Opening never changes an
+  // existing file; a file created here (options.create) gets its journal:
+  // WAL on a local disk, the rollback journal on a network share.
   void open(const std::string& path, const Options& options);
   void open(const std::string& path) { open(path, Options{}); }
   // Closes every open recordset and the file; nothing happens when none is open.

@@ -60,7 +60,7 @@ class Scanner {
       return Token::Literal;
     }
     if (isDigit(c) || (c == '.' && isDigit(peek(1)))) return number();
-    if (c == '?' || ((c == ':' || c == '@' || c == '$') && isWordChar(peek(1)))) {
+    if (c == '?' || ((c == ':' || c == '@' || c == '$' || c == '#') && isWordChar(peek(1)))) {
       ++at_;
       while (at_ < sql_.size() && isWordChar(sql_[at_])) ++at_;
       return Token::Parameter;

@@ -42,17 +42,6 @@ Statement& Statement::operator=(Statement&& other) noexcept {
   return *this;
 }
 
-void fail(sqlite3* db, int rc, int busyTimeoutMs, const std::string& context) {
-  int primary = rc & 0xff;
-  if (primary == SQLITE_BUSY || primary == SQLITE_LOCKED) {
-    throw RuntimeError(err::kStoreError,
-                       "The database is locked by another user or process (waited " +
-                           std::to_string(busyTimeoutMs) + " ms). Try again in a moment.");
-  }
-  std::string message = db != nullptr ? sqlite3_errmsg(db) : sqlite3_errstr(rc);
-  throw RuntimeError(err::kStoreError, context + ": " + message);
-}
-
 void runToEnd(sqlite3* db, sqlite3_stmt* stmt, int busyTimeoutMs, const std::string& context) {
   StatementUse use(stmt);
   int rc;

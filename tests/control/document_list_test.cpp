@@ -93,6 +93,15 @@ TEST_F(DocumentListTest, AnEmptyCategoryOrNoSelectionEmptiesTheList) {
   EXPECT_EQ(list.ListItems().Count(), 0);
   EXPECT_EQ(quillbox.headerGradient().Caption(), "  Letters");
   EXPECT_EQ(screen().MousePointer(), 0);
+
+  // A node whose key is no category's is left alone: no failure, and the
+  // pointer is back.
+  show(quillbox, 3);
+  Node& other = quillbox.tvClientDocumentation().Nodes().Add(Variant(), tvwNext, "Plan:3", "Plan");
+  quillbox.tvClientDocumentation().setSelectedItem(&other);
+  quillbox.setupDocumentsDisplay();
+  EXPECT_EQ(list.ListItems().Count(), 0);
+  EXPECT_EQ(screen().MousePointer(), 0);
   EXPECT_TRUE(errors->failures.empty());
 }
 

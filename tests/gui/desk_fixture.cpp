@@ -13,8 +13,8 @@
 #include "app/desk/desktop_services.h"
 #include "gui/form_dialogs.h"
 #include "gui/theme_icons.h"
+#include "sample/sample_firm.h"
 #include "services/controls/form.h"
-#include "services/store/sample_firm.h"
 
 // The desktop's font library keeps its caches for the life of the process,
 // and so does the D-Bus library its connection on an X display; the leak

@@ -2,14 +2,22 @@
 // the client picker, the command line, and what the host does on close and
 // with a database it can't open.
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QMessageBox>
 #include <QStatusBar>
+#include <QTimer>
 #include <QTreeWidget>
+#include <filesystem>
+#include <fstream>
+#include <functional>
+#include <iterator>
 
 #include "app/desk/client_picker_dialog.h"
 #include "app/desk/dialog_error_object.h"
+#include "gui/message_box_object.h"
 #include "services/runtime/conversions.h"
 #include "services/store/sqlite_database.h"
 #include "tests/gui/desk_fixture.h"
@@ -17,6 +25,11 @@
 namespace qb::test {
 
 namespace {
+
+std::string bytesOf(const std::string& path) {
+  std::ifstream in(path, std::ios::binary);
+  return std::string(std::istreambuf_iterator<char>(in), {});
+}
 
 std::vector<std::string> names(const hosts::ClientRoster& roster, int from, int to) {
   std::vector<std::string> found;
@@ -107,6 +120,80 @@ TEST_F(DeskTest, ClosingKeepsTheUsersViewAndABadDatabaseLeavesTheWindowEmpty) {
   settle();
   EXPECT_EQ(quillbox().ListViewViews(), viewSmallIcons);
   EXPECT_EQ(window_->currentClient(), 0);  // the first client with documents
+}
+
+TEST_F(DeskTest, AFileThatCantBeOpenedLeavesTheOpenDatabaseAsItWas) {
+  nvDocumentQuillbox* component = window_->component();
+  const int client = window_->currentClient();
+  const int32_t rows = quillbox().lvDocuments().ListItems().Count();
+  ASSERT_GT(rows, 0);
+  const std::string text = folder_.writeFile("notes.db", "Meeting notes\n");
+  const std::string missing = folder_.file("gone.db");
+  for (const std::string& path : {text, missing}) {
+    EXPECT_FALSE(window_->openDatabase(QString::fromStdString(path)));
+    EXPECT_EQ(window_->component(), component);
+    EXPECT_EQ(window_->currentClient(), client);
+    EXPECT_EQ(quillbox().lvDocuments().ListItems().Count(), rows);
+    const std::string& said = window_->messages().texts().back();
+    EXPECT_EQ(said.substr(said.size() - 33), "The database open now stays open.") << said;
+  }
+  const auto& texts = window_->messages().texts();
+  EXPECT_EQ(
+      texts[texts.size() - 2].rfind("The database \"" + text + "\" is not a client database", 0),
+      0u);
+  EXPECT_EQ(texts.back().rfind("There is no database file at \"" + missing + "\".", 0), 0u);
+  EXPECT_EQ(bytesOf(text), "Meeting notes\n");
+  EXPECT_EQ(window_->errors().failureCount(), 0);
+}
+
+TEST(DeskStart, OnAMissingDatabaseItSaysSoAndCanMakeTheSample) {
+  ensureApplication();
+  TempFolder folder;
+  desk::DeskOptions options;
+  options.databasePath = folder.file("firm.db");
+  options.unattended = true;
+  desk::ClientWindow window(options);
+  EXPECT_EQ(window.component(), nullptr);
+  ASSERT_EQ(window.messages().texts().size(), 1u);
+  EXPECT_EQ(window.messages().texts()[0],
+            "The client database \"" + options.databasePath +
+                "\" can't be opened.\nThere is no database file at \"" + options.databasePath +
+                "\". Check the path; the file may have been moved or deleted.");
+
+  ASSERT_TRUE(window.createSampleDatabase(QString::fromStdString(options.databasePath)));
+  ASSERT_NE(window.component(), nullptr);
+  EXPECT_EQ(window.roster().size(), 16 + 30);
+  EXPECT_TRUE(std::filesystem::exists(folder.file("firm-files")));
+}
+
+// Not unattended: the box itself, its buttons and what the sample button does.
+TEST(DeskStart, TheStartBoxOffersAnotherDatabaseOrTheSample) {
+  ensureApplication();
+  TempFolder folder;
+  desk::DeskOptions options;
+  options.databasePath = folder.file("firm.db");
+  QStringList buttons;
+  std::function<void()> answer = [&] {
+    auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    if (box == nullptr) {
+      QTimer::singleShot(10, answer);
+      return;
+    }
+    const char* dir = std::getenv("QB_SCREENSHOT_DIR");
+    box->grab().save(QString::fromStdString(
+        (dir != nullptr ? std::string(dir) : folder.path().string()) + "/start-box.png"));
+    for (QAbstractButton* button : box->buttons()) buttons << button->text();
+    for (QAbstractButton* button : box->buttons()) {
+      if (button->text().contains("Sample")) button->click();
+    }
+  };
+  QTimer::singleShot(0, answer);
+  desk::ClientWindow window(options);
+  buttons.sort();
+  EXPECT_EQ(buttons, (QStringList{"&Create the Sample Database", "&Open Another Database…",
+                                  "Continue &Without", "Show Details..."}));
+  ASSERT_NE(window.component(), nullptr);
+  EXPECT_EQ(window.roster().size(), 16 + 30);
 }
 
 TEST(DeskOptions, ClientOption) {

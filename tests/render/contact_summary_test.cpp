@@ -1,12 +1,11 @@
 // The RTF summaries of contacts and employees, where they are stored, and the
 // copies in the notes of the companies whose default contact they are.
 
-#include <cstdio>
 #include <filesystem>
-#include <fstream>
 #include <sstream>
 
 #include "tests/render/render_fixture.h"
+#include "tests/render/rtf_reader.h"
 
 namespace qb::test {
 namespace {
@@ -159,33 +158,53 @@ TEST_F(ContactSummary, CopiesGoToEveryCompanyTheContactIsDefaultOf) {
 
 // What a real RTF reader makes of a summary with accents and braces.
 TEST_F(ContactSummary, ARealReaderReadsAccentsAndBraces) {
-  const char* reader = "/usr/bin/unrtf";
-  if (!std::filesystem::exists(reader)) GTEST_SKIP() << "unrtf is not installed";
+  if (!haveRtfReader()) GTEST_SKIP() << "unrtf is not installed";
   db.exec(
       "INSERT INTO Contacts (ContactID, DisplayName, BusinessName) VALUES "
       "(30, 'Hélène Côté', 'Côté & Fils {Montréal}');"
       "UPDATE Companies SET CompanyName = 'Côté & Fils {Montréal}' WHERE CompanyID = 3;");
   link(30, 3, "1");
-  std::string rtfPath = db.folder().file("summary.rtf");
-  std::ofstream(rtfPath, std::ios::binary) << summary(30, 3);
-
-  std::string command = std::string(reader) + " --text '" + rtfPath + "' 2>/dev/null";
-  FILE* pipe = popen(command.c_str(), "r");
-  ASSERT_NE(pipe, nullptr);
-  std::string text;  // the reader writes code page 1252: Latin-1 for these letters
-  for (int c; (c = fgetc(pipe)) != EOF;) {
-    if (c < 0x80) {
-      text += static_cast<char>(c);
-    } else {
-      text += static_cast<char>(0xC0 | (c >> 6));
-      text += static_cast<char>(0x80 | (c & 0x3F));
-    }
-  }
-  EXPECT_EQ(pclose(pipe), 0);
+  std::string text = rtfReaderText(summary(30, 3), db.folder().path().string());
   EXPECT_NE(text.find("Name: Hélène Côté"), std::string::npos) << text;
   EXPECT_NE(text.find("Company Name: Côté & Fils {Montréal}"), std::string::npos) << text;
   EXPECT_NE(text.find("Associated Company: Côté & Fils {Montréal}"), std::string::npos) << text;
   EXPECT_NE(text.find("Default Contact: Yes"), std::string::npos) << text;
+}
+
+// Control characters stored in a value never reach the RTF: a NUL or an ESC
+// is dropped, a tab is \tab, and a bare line feed or carriage return is a
+// line break as CR LF is.
+TEST_F(ContactSummary, ControlCharactersNeverReachTheRtf) {
+  db.exec(
+      "INSERT INTO Contacts (ContactID, DisplayName, BusinessName, BusinessJobTitle, "
+      "BusinessAddress, BusinessCity) VALUES (31, 'Ann' || char(0) || ' Smith', 'North' || "
+      "char(10) || 'Wind', 'Chief' || char(9) || 'Baker', 'Unit 4' || char(13) || '9 Elm St', "
+      "'Ottawa');"
+      "INSERT INTO ContactsNotes (ContactNum, Notes) VALUES (31, 'Called' || char(27) || "
+      "'[0m twice' || char(10) || 'Will call back' || char(13) || char(10) || 'Done');");
+  std::string rtf = summary(31, -1);
+  for (size_t i = 0; i < rtf.size(); ++i) {
+    unsigned char c = static_cast<unsigned char>(rtf[i]);
+    if (c == '\r') {
+      EXPECT_TRUE(i + 1 < rtf.size() && rtf[i + 1] == '\n') << "a bare CR at " << i;
+    } else if (c == '\n') {
+      EXPECT_TRUE(i > 0 && rtf[i - 1] == '\r') << "a bare LF at " << i;
+    } else {
+      EXPECT_TRUE(c >= 0x20 && c < 0x7F) << "byte " << int(c) << " at " << i;
+    }
+  }
+  EXPECT_NE(rtf.find("Name:\\b0  Ann Smith\\par\r\n"), std::string::npos) << rtf;
+  EXPECT_NE(rtf.find("Company Name:\\b0   North\\line Wind\\par\r\n"), std::string::npos) << rtf;
+  EXPECT_NE(rtf.find("Job Title:\\b0   Chief\\tab Baker\\par\r\n"), std::string::npos) << rtf;
+  EXPECT_NE(rtf.find("Unit 4\r\n\\par 9 Elm St"), std::string::npos) << rtf;
+  EXPECT_NE(rtf.find("Called[0m twice\r\n\\par Will call back\r\n\\par Done"), std::string::npos)
+      << rtf;
+
+  if (!haveRtfReader()) GTEST_SKIP() << "unrtf is not installed";
+  std::string text = rtfReaderText(rtf, db.folder().path().string());
+  EXPECT_NE(text.find("Name: Ann Smith\n"), std::string::npos) << text;
+  EXPECT_NE(text.find("Company Name: North\nWind\n"), std::string::npos) << text;
+  EXPECT_NE(text.find("Will call back\nDone"), std::string::npos) << text;
 }
 
 }  // namespace

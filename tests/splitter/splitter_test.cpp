@@ -4,6 +4,8 @@
 
 #include "services/controls/frame.h"
 #include "services/controls/platform.h"
+#include "services/errors/recording_error_object.h"
+#include "services/host/module_state.h"
 
 namespace qb {
 namespace {
@@ -187,6 +189,41 @@ TEST_F(SplitterFixture, PropertyBagRoundTrip) {
                                                "SplitterMin", "SplitterPosition", "Orientation"}));
   loaded.Refresh();  // the orientation setter alone does not move the neighbours
   EXPECT_EQ(geometry(left), "0,0,10000,1750");
+}
+
+// A neighbour that refuses its new place (380, a negative width) is a
+// failure of the procedure that moved it, reported through the error
+// convention: no setter or mouse handler throws, and a drag still ends with
+// SplitComplete.
+TEST_F(SplitterFixture, ANeighbourThatRefusesItsPlaceIsReportedAndTheDragEnds) {
+  auto errors = std::make_shared<RecordingErrorObject>();
+  resetModuleState();
+  moduleState().errorClass = errors;
+  auto s = make();
+  s->setSplitterPosition(90);
+  changed.clear();
+  EXPECT_NO_THROW(s->setSplitterWidth(2000));  // the right neighbour would be -1000 wide
+  ASSERT_EQ(errors->failures.size(), 1u);
+  EXPECT_EQ(errors->failures[0].number, err::kInvalidProperty);
+  EXPECT_EQ(errors->failures[0].source, "Orvanta.exe-Splitter-Refresh");
+  EXPECT_EQ(errors->failures[0].stack,
+            (std::vector<std::string>{"Orvanta.exe-Splitter-SplitterWidth",
+                                      "Orvanta.exe-Splitter-Refresh"}));
+  EXPECT_EQ(changed, std::vector<std::string>{"SplitterWidth"});
+  EXPECT_EQ(geometry(left), "0,0,9000,5000");  // the left one was placed
+
+  int completed = 0;
+  s->SplitComplete = [&] { ++completed; };
+  EXPECT_NO_THROW({
+    s->picSplitter.MouseDown.raise(1, 0, 0, 100);
+    s->picSplitter.MouseMove.raise(1, 0, -500, 100);
+    s->picSplitter.MouseUp.raise(1, 0, 0, 0);
+  });
+  EXPECT_EQ(completed, 1);
+  EXPECT_EQ(s->SplitterPosition(), 85);
+  EXPECT_EQ(errors->failures.size(), 2u);
+  EXPECT_EQ(errors->failures[1].stack.front(), "Orvanta.exe-Splitter-picSplitter_MouseUp");
+  resetModuleState();
 }
 
 }  // namespace

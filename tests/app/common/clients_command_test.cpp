@@ -9,7 +9,7 @@
 #include <sstream>
 
 #include "app/common/desk_settings.h"
-#include "services/store/sample_firm.h"
+#include "sample/sample_firm.h"
 #include "tests/support/temp_folder.h"
 
 namespace qb::test {

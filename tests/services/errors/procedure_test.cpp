@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <memory>
 #include <sstream>
 #include <string>
@@ -120,6 +121,28 @@ TEST_F(ProcedureTest, ConsoleErrorObjectWritesFailureWithTrace) {
             "  source: Orvanta.exe-modFormatAddresses-createAddress\n"
             "  trace:\n"
             "    Orvanta.exe-modFormatAddresses-createAddress\n");
+
+  // The message's first line leads; its details and a recursion's run of one
+  // name follow below it, the run written once.
+  out.str("");
+  {
+    Procedure outer("Orvanta.exe-test-outer");
+    std::function<void(int)> recurse = [&](int depth) {
+      Procedure inner("Orvanta.exe-test-recurse");
+      inner.step([&] {
+        if (depth == 0) throw RuntimeError(28, "Out of stack space\nin the address book");
+        recurse(depth - 1);
+      });
+    };
+    recurse(40);
+  }
+  EXPECT_EQ(out.str(),
+            "Error 28: Out of stack space\n"
+            "  in the address book\n"
+            "  source: Orvanta.exe-test-recurse\n"
+            "  trace:\n"
+            "    Orvanta.exe-test-recurse (41 times)\n"
+            "    Orvanta.exe-test-outer\n");
 }
 
 }  // namespace

@@ -7,14 +7,19 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <cerrno>
 #include <filesystem>
+#include <fstream>
 #include <functional>
 #include <memory>
+#include <sstream>
 #include <string>
 
 #include "services/errors/runtime_error.h"
 #include "services/runtime/conversions.h"
 #include "services/runtime/dates.h"
+#include "services/store/schema.h"
+#include "services/store/sqlite_failures.h"
 #include "services/store/sqlite_sql_text.h"
 #include "tests/support/temp_folder.h"
 
@@ -37,13 +42,37 @@ class StoreTest : public ::testing::Test {
         "NULL),"
         " (3, 'Côté & Fils', 1, 0, NULL);"
         "INSERT INTO ClientData VALUES (10, 1, 1, 'first'), (20, 2, 0, NULL), (30, 3, 1, "
-        "'third');");
+        "'third');" +
+        markSql());
+  }
+
+  // The statements that mark a file as a client database.
+  static std::string markSql() {
+    return "PRAGMA application_id=" + std::to_string(kClientDatabaseApplicationId) +
+           "; PRAGMA user_version=" + std::to_string(kClientDatabaseSchemaVersion) + ";";
   }
 
   // A value read straight from the file, bypassing the store.
-  std::string direct(const std::string& sql) {
+  std::string direct(const std::string& sql) { return scalarOf(path, sql); }
+
+  // Runs SQL straight on the file.
+  void execDirect(const std::string& sql) {
     sqlite3* db = nullptr;
-    sqlite3_open_v2(path.c_str(), &db, SQLITE_OPEN_READONLY, nullptr);
+    sqlite3_open(path.c_str(), &db);
+    sqlite3_exec(db, sql.c_str(), nullptr, nullptr, nullptr);
+    sqlite3_close(db);
+  }
+
+  static std::string fileBytes(const std::string& file) {
+    std::ifstream in(file, std::ios::binary);
+    std::ostringstream bytes;
+    bytes << in.rdbuf();
+    return bytes.str();
+  }
+
+  static std::string scalarOf(const std::string& file, const std::string& sql) {
+    sqlite3* db = nullptr;
+    sqlite3_open_v2(file.c_str(), &db, SQLITE_OPEN_READONLY, nullptr);
     sqlite3_stmt* statement = nullptr;
     sqlite3_prepare_v2(db, sql.c_str(), -1, &statement, nullptr);
     std::string result = "<none>";
@@ -202,12 +231,15 @@ TEST_F(StoreTest, FailuresAreRuntimeErrorsNeverCrashes) {
   EXPECT_EQ(errorOf([&] { missing.getFieldValue(1, "A"); }), err::kBadHandle);
   EXPECT_FALSE(missing.isRecordsetOpen(1));
   EXPECT_EQ(messageOf([&] { missing.open(folder.file("absent.db")); }),
-            "The database file \"" + folder.file("absent.db") + "\" does not exist.");
+            "There is no database file at \"" + folder.file("absent.db") +
+                "\". Check the path; the file may have been moved or deleted.");
   EXPECT_FALSE(std::filesystem::exists(folder.file("absent.db")));
   EXPECT_FALSE(missing.isConnected());
   folder.writeFile("junk.db", std::string(4096, 'j'));
   EXPECT_EQ(messageOf([&] { missing.open(folder.file("junk.db")); }),
-            "The file \"" + folder.file("junk.db") + "\" is not a database.");
+            "The database \"" + folder.file("junk.db") +
+                "\" is not a client database: it is not a SQLite database file. Choose the firm's "
+                "client database file.\nCan't read the database: file is not a database");
   EXPECT_NE(messageOf([&] { store.openRecordset("SELEKT nonsense;", 1, 1); }).find("syntax error"),
             std::string::npos);
 
@@ -270,7 +302,9 @@ TEST_F(StoreTest, ABusyDatabaseIsReportedAndTwoProcessesLoseNoWrite) {
     ADD_FAILURE() << "the write went through a held lock";
   } catch (const RuntimeError& error) {
     EXPECT_EQ(error.number(), err::kStoreError);
-    EXPECT_NE(error.description().find("locked by another user or process"), std::string::npos);
+    EXPECT_NE(error.description().find(
+                  "is locked by another user or program (waited 50 ms). Try again in a moment."),
+              std::string::npos);
   }
   EXPECT_EQ(impatient.getFieldValue(rs, "CompanyName"), Variant("Acme"));
   sqlite3_exec(holder, "ROLLBACK", nullptr, nullptr, nullptr);
@@ -359,7 +393,13 @@ TEST_F(StoreTest, KeysInTheSqlTextBecomeParametersOfOneStatement) {
             "SELECT T.A FROM T WHERE T.Custom1=? AND B <> ? AND C='x=3' AND D=1.5 -- E=7\n"
             "AND F IN (1, 2) ORDER BY 1;");
   EXPECT_EQ(keyed.keys, (std::vector<int64_t>{5, -12}));
-  EXPECT_EQ(sqlite::takeOutKeys("SELECT A FROM T WHERE A=? AND B=2;").keys.size(), 0u);
+  // A text with parameters of its own, in any of SQLite's spellings, keeps
+  // its numbers (found by fuzzing: "#name" is one).
+  for (const char* own : {"?", "?1", ":a", "@a", "$a", "#a"}) {
+    std::string sql = std::string("SELECT A FROM T WHERE A=") + own + " AND B=2;";
+    EXPECT_EQ(sqlite::takeOutKeys(sql).text, sql);
+    EXPECT_EQ(sqlite::takeOutKeys(sql).keys.size(), 0u) << own;
+  }
 
   // One statement serves every key, and each open reads its own row.
   const std::string lookup = "SELECT Companies.CompanyName FROM Companies WHERE CompanyID=";
@@ -440,6 +480,104 @@ TEST_F(StoreTest, FindRecordComparesByValueAndSeesWritesOfOtherRecordsets) {
   EXPECT_EQ(store.getFieldValue(rs, "CompanyID"), Variant(int32_t{1}));
   store.moveNextRecord(rs);
   EXPECT_EQ(store.getFieldValue(rs, "CompanyName"), Variant("Bolt"));
+}
+
+}  // namespace
+}  // namespace qb
+
+namespace qb::sqlite {
+namespace {
+
+TEST(StoreFailures, EachSaysWhatHappenedAndWhatToDo) {
+  auto text = [](int rc, int systemError = 0, bool onNetworkShare = false) {
+    Failure failure{"/data/firm.db", rc, systemError, onNetworkShare, 5000, "Can't run the query",
+                    "sqlite's words"};
+    return failureText(failure);
+  };
+  EXPECT_EQ(text(SQLITE_BUSY),
+            "The database \"/data/firm.db\" is locked by another user or program (waited 5000 "
+            "ms). Try again in a moment.");
+  EXPECT_EQ(text(SQLITE_FULL),
+            "The disk is full: \"/data/firm.db\" can't grow, and the change was not saved. Free "
+            "some space on the disk and try again.\nCan't run the query: sqlite's words");
+  EXPECT_EQ(text(SQLITE_IOERR_READ, EIO),
+            "The database \"/data/firm.db\" could not be read or written (Input/output error). "
+            "Check the disk and try again; if it keeps failing, restore the database from its "
+            "last backup.\nCan't run the query: sqlite's words");
+  EXPECT_EQ(text(SQLITE_IOERR_WRITE, EIO, true),
+            "The database \"/data/firm.db\" could not be read or written: the network share it "
+            "lies on does not answer. Check the connection to the server and try again.\nCan't "
+            "run the query: sqlite's words");
+  EXPECT_EQ(text(SQLITE_READONLY_DBMOVED),
+            "The database \"/data/firm.db\" was moved or deleted while it was open; the change "
+            "was not saved. Put the file back where it was and open it again.\nCan't run the "
+            "query: sqlite's words");
+  EXPECT_EQ(text(SQLITE_CANTOPEN, ENOENT).substr(0, 81),
+            "The database \"/data/firm.db\" is gone: it was moved or deleted. Open it from where");
+  EXPECT_EQ(text(SQLITE_CANTOPEN, EACCES).substr(0, 71),
+            "The database \"/data/firm.db\" may not be read or written by you (permiss");
+  EXPECT_EQ(text(SQLITE_CORRUPT).substr(0, 81),
+            "The database \"/data/firm.db\" is damaged and can't be read. Restore it from its la");
+  Failure missingTable{
+      "/data/firm.db",          SQLITE_ERROR, 0, false, 5000, "Can't prepare the SQL",
+      "no such table: Contacts"};
+  EXPECT_EQ(failureText(missingTable),
+            "The database \"/data/firm.db\" lacks a table or column this program needs: it is not "
+            "a complete client database, or comes from another version.\nCan't prepare the SQL: "
+            "no such table: Contacts");
+  // Anything else keeps SQLite's words after what the store was doing.
+  EXPECT_EQ(text(SQLITE_CONSTRAINT), "Can't run the query: sqlite's words");
+}
+
+}  // namespace
+}  // namespace qb::sqlite
+
+namespace qb {
+namespace {
+
+TEST_F(StoreTest, OnlyAClientDatabaseOpensAndOpeningChangesNothing) {
+  store.close();
+  // Opening for writing leaves the journal and the bytes as they were.
+  execDirect("PRAGMA journal_mode=DELETE;");
+  std::string bytes = fileBytes(path);
+  store.open(path);
+  EXPECT_EQ(store.journalMode(), "delete");
+  store.close();
+  EXPECT_EQ(fileBytes(path), bytes);
+
+  execDirect("PRAGMA user_version=" + std::to_string(kClientDatabaseSchemaVersion + 1) + ";");
+  EXPECT_EQ(messageOf([&] { store.open(path); }),
+            "The client database \"" + path + "\" was made by a newer version (schema " +
+                std::to_string(kClientDatabaseSchemaVersion + 1) + "; this program reads schema " +
+                std::to_string(kClientDatabaseSchemaVersion) +
+                "). Update this program to open it; the file was left as it is.");
+  execDirect("PRAGMA user_version=0; PRAGMA application_id=0;");
+  EXPECT_NE(messageOf([&] { store.open(path); }).find("a SQLite database of another program"),
+            std::string::npos);
+  EXPECT_FALSE(store.isConnected());
+
+  // A new file gets the journal that suits where it lies.
+  SqliteDatabase fresh;
+  SqliteDatabase::Options create;
+  create.create = true;
+  fresh.open(folder.file("fresh.db"), create);
+  EXPECT_EQ(fresh.journalMode(), "wal");
+}
+
+TEST_F(StoreTest, AFileMovedAwayWhileOpenKeepsItsData) {
+  RecordsetHandle rs =
+      store.openRecordset("SELECT Companies.* FROM Companies WHERE CompanyID=1;", 1, 3);
+  store.moveFirstRecord(rs);
+  std::filesystem::rename(path, folder.file("moved.db"));
+  EXPECT_EQ(messageOf([&] { store.updateFieldValue(rs, "CompanyName", "Moved"); }),
+            "The database \"" + path +
+                "\" was moved or deleted while it was open; the change was not saved. Put the "
+                "file back where it was and open it again.");
+  EXPECT_EQ(store.getFieldValue(rs, "CompanyName"), Variant("Acme"));
+  store.close();
+  // Put back, it holds everything written before the move.
+  std::filesystem::rename(folder.file("moved.db"), path);
+  EXPECT_EQ(direct("SELECT CompanyName FROM Companies WHERE CompanyID=3"), "Côté & Fils");
 }
 
 }  // namespace
