@@ -4,11 +4,16 @@
 // field marker into a rich text box when the user picks one, and expands the
 // markers of a template with one client's data.
 //
-// This class's model: its state with the start values below, the field
-// table FieldList that every other part reads (built from the catalogues by
-// createDefaultFieldListStructure), the operations on the list boxes, the
-// translation between field names and display names, and the value
-// conversions (convertProvinceFields and its neighbours).
+// The class is split over files by concern: its model (field_model.cpp),
+// the catalogues, the template check (template_check.cpp), the merge passes
+// (merge_passes.cpp, with the sweeps in marker_sweep.* and the removal of
+// unfound markers in unfound_markers.*), field resolution
+// (field_resolution.cpp, field_values.cpp), write-back (write_back.cpp), the
+// value conversions and the display texts (display_text.cpp).
+//
+// A merge, as a host drives it: set the item ids and flags, optionally check
+// the template (testRTBComment), initializeDataRecordsetsForSingleDocMerge,
+// set TemplateText, parseRTBComment; the result is the finished text.
 //
 // The list boxes and the rich text box belong to the host: the class keeps
 // plain pointers to them, never destroys them and drops them when it ends.
@@ -20,9 +25,11 @@
 
 #include <cstdint>
 #include <functional>
+#include <memory>
 #include <string>
 
 #include "merge/merge_field_types.h"
+#include "services/controls/event.h"
 #include "services/runtime/variant.h"
 #include "services/store/database_reference.h"
 #include "services/util/field_list_class.h"
@@ -32,6 +39,7 @@ namespace qb {
 class ListBox;
 class RichTextBox;
 class CatalogueBuilder;
+class MarkerKeys;
 
 class clsInsertFieldsInRTB {
  public:
@@ -147,6 +155,65 @@ class clsInsertFieldsInRTB {
   // replacements ignore case. "" after a failure.
   std::string convertProvinceFields(const std::string& text);
 
+  // ---- Templates -----------------------------------------------------------
+
+  // Raised by testRTBComment, when messages are wanted, with the message of
+  // the first error of the template.
+  Event<void(std::string& message)> testErrorComment;
+
+  // Checks a template's markers: brackets paired, date markers with their
+  // round brackets and one of the fourteen formats, bodies of at most 40
+  // characters, names of the field table (unless skipFieldTest). True when
+  // the template has an error; the check stops at the first, so a call
+  // raises testErrorComment at most once (only with showMessages). The
+  // caller's text is left as it was. useRichBrackets looks at the brackets
+  // as RTF source writes them (\'ab, \'bb) and at no others.
+  bool testRTBComment(std::string& text, bool useRichBrackets, bool showMessages,
+                      bool skipFieldTest);
+
+  // The finished text of TemplateText: normalised, every marker of a field
+  // replaced by its value (the sample in test mode), every marker left
+  // removed. TemplateText stays as it was. With an empty field table (no
+  // item id set) the markers stay.
+  std::string parseRTBComment();
+  // Removes the markers no sweep replaced: first those in plain brackets;
+  // only when there were none, those in RTF source form, which leave their
+  // last three characters ("'bb") behind. Compares exactly. A bracket that
+  // opens and never closes ends the removal there, the rest of the text as
+  // it is. Does nothing when the field table is empty. Always False.
+  bool replaceUnfoundMergeFieldsWithBlanks(std::string& text);
+  // Returns the text as it came: blank RTF lines are kept.
+  std::string removeBlankLinesFromRTFText(std::string& text);
+
+  // ---- Field values --------------------------------------------------------
+
+  // Opens the recordsets of the items set (the lock allows writing when
+  // MergeFieldListUse is 5) and builds the field table for them, also
+  // without a connected store. The way to move a merge to other items.
+  void initializeDataRecordsetsForSingleDocMerge();
+  // The value of the first field with this name (fieldName) or display name,
+  // as a marker without a date format receives it; "" when there is none.
+  // An empty table is built first, and that call gives "".
+  std::string getMergeDataFromFieldName(std::string fieldName);
+  std::string getMergeDataFromDisplayName(std::string MergeDisplayName);
+  // Writes an edited value back to the column behind a field (by its
+  // fieldName), in the form its type asks for, committed at once; for a
+  // merge opened with MergeFieldListUse 5. A computed field, an unknown name
+  // and a date before 1900 write nothing. Always False.
+  bool writeDataToField(const std::string& fieldName, const Variant& value);
+
+  // ---- Display texts -------------------------------------------------------
+
+  // The calendar's text of an appointment (ListType 5), a time entry (6) or
+  // a task (8) for the user userID: the user's template or the built-in one,
+  // merged for the item and framed by the item's text before and after. ""
+  // when the item id is not set. Sets MergeFieldListUse to 1; for a company
+  // item, contactID becomes the company's default contact.
+  std::string createDisplayTextByID();
+  // The title bar text of the item from the user's title template; "" when
+  // the user has none.
+  std::string createTitleBarTextByID();
+
  protected:
   // The class's private operations, reachable by the engine's own parts.
 
@@ -184,6 +251,40 @@ class clsInsertFieldsInRTB {
   // -1.
   void closeMergeRecordsets();
 
+  // True when the name is a field of the template language: "Todays Date" in
+  // any case, or a display name of the field table.
+  bool testStr(const std::string& fieldName);
+  // The name with its plain brackets in RTF source form: "«" as \'ab, "»" as
+  // \'bb.
+  std::string convertFieldName(const std::string& name);
+  // Replaces every occurrence of find (any case). When values go into rich
+  // text, a blank goes ahead of each replacement unless the first occurrence
+  // starts the text or follows a blank, so that a value never runs into a
+  // control word standing before it. Always False.
+  bool replaceText(std::string& text, const std::string& find, const std::string& replacement);
+  // One sweep over the markers in one bracket pair, as the merge makes it:
+  // today's date in its fourteen formats, then every field of the table in
+  // its order, each marker found replaced by its value. sweepMarkers reads
+  // the template once (MarkerSweep); sweepLiterally searches the text for
+  // every marker of every field in turn, and serves where the one reading
+  // can't be sure to agree (a display name holding a bracket).
+  void sweepMarkers(std::string& text, const std::string& open, const std::string& close);
+  void sweepLiterally(std::string& text, const std::string& open, const std::string& close);
+  // The first three steps of a merge: TemplateText normalised, and "«Company
+  // Name»" turned into "«Contact Display Name»" for a contact without a
+  // company when the class is asked to.
+  std::string prepareTemplate();
+
+  // The value a marker of the row with this index receives, formatted by the
+  // field's type (a date with format, or "mmm d, yyyy" when it is blank) and
+  // made ready for rich text; the sample in test mode. "" for a blank value.
+  std::string getDataFieldInfo(int32_t rowIndex, const std::string& format);
+  // The value of the current row's field read from its recordset, with the
+  // inheritance of a contact's business details, the spouse's name,
+  // abbreviated provinces, coded columns and durations. fieldName may come
+  // back shortened ("AbbreviatedProvince" to "Province").
+  std::string getDataFieldFromRecordset(std::string& fieldName);
+
   // The kept recordsets of a merge, -1 when closed.
   RecordsetHandle clientInfoRecordset_ = -1;
   RecordsetHandle companyRecordset_ = -1;
@@ -203,6 +304,66 @@ class clsInsertFieldsInRTB {
 
  private:
   friend class CatalogueBuilder;
+
+  // The recordset sources of the field table, in the order getDataFieldInfo
+  // tests them.
+  enum class Source {
+    Contact,
+    ContactNotes,
+    Company,
+    CompanyNotes,
+    ClientInfo,
+    Software,
+    Firm,
+    Appointment,
+    Task,
+    Docket
+  };
+  // A source's recordset, the item id that names its row and the key column
+  // findRecord looks for it by, and the texts it is opened with on first use.
+  struct SourceInfo {
+    Source source;
+    const char* name;  // the fieldSource of its rows
+    RecordsetHandle clsInsertFieldsInRTB::*handle;
+    int32_t clsInsertFieldsInRTB::*id;
+    const char* key;
+    const char* onFirstUse;  // one item; the id follows
+    const char* wholeTable;  // a run over many clients; nullptr: none
+    int32_t wholeTableLock;
+  };
+  static const SourceInfo* sourceNamed(const std::string& fieldSource);
+  // Opens a source's recordset on its first use (the whole table in a run
+  // over many clients).
+  void openOnFirstUse(const SourceInfo& source);
+  // The source's row of the current item: true when found. A key the
+  // recordset has no column for counts as not found.
+  bool findSourceRow(const SourceInfo& source);
+  // The value of the first row whose column holds name, as
+  // getMergeDataFromFieldName gives it.
+  std::string mergeDataOfRow(const char* procedure, int32_t column, const std::string& name);
+  // True when the contact inherits its company's details and the company's
+  // row is found (after the merge's turns of the event pump).
+  bool findInheritedCompany();
+  // The value of a marker found by a sweep.
+  std::string markerValue(int32_t key);
+  // The index of the markers of the current field table, made again when the
+  // table changed.
+  const MarkerKeys& markerKeys();
+  // The item kinds of the display texts (ListType 5, 6, 8); nullptr for
+  // another list type.
+  struct DisplayKind;
+  static const DisplayKind* displayKindOf(int32_t listType);
+  // The user's calendar setting of the kind (its prefix and suffix) when the
+  // user has a settings row: rowFound tells.
+  Variant readCalendarSetting(const DisplayKind* kind, const char* suffix, bool& rowFound);
+  // A template made to fit the item's client: the company's name and the
+  // contact's swapped at their first occurrence, and for a company item its
+  // default contact taken as the contact.
+  void fitTemplateToClient(std::string& text);
+  // writeDataToField's write of one value to a column, in the form its type
+  // asks for; nothing for a date before 1900 or an unknown type.
+  void writeByType(RecordsetHandle handle, const std::string& column, int16_t type,
+                   const Variant& value);
 
   // The first row whose fromColumn holds name (any case) gives its toColumn;
   // name itself when no row does. The row found stays current.
@@ -231,6 +392,7 @@ class clsInsertFieldsInRTB {
   qb::ListBox* listBox2_ = nullptr;
   RichTextBox* rtb_ = nullptr;
   bool showListCategoryHeaders_ = true;
+  std::unique_ptr<MarkerKeys> markerKeys_;
 };
 
 }  // namespace qb

@@ -12,7 +12,6 @@
 #include "merge/cls_insert_fields_in_rtb.h"
 #include "merge/merge_services.h"
 #include "merge/merge_sql.h"
-#include "services/controls/platform.h"
 #include "services/errors/procedure.h"
 #include "services/runtime/conversions.h"
 #include "services/runtime/strings.h"
@@ -105,7 +104,7 @@ std::string clsInsertFieldsInRTB::getContactAndSpouseName(int32_t contactID, boo
   });
   bool found = false;
   proc.step([&] {
-    for (int i = 0; i < 8; ++i) DoEvents();
+    merge::yieldBeforeFind();
     found = store.findRecord(contactRecordset_, "ContactID", std::to_string(contactID));
   });
   if (!found) return result;

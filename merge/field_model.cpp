@@ -6,6 +6,7 @@
 
 #include "data/mod_database_functions.h"
 #include "merge/cls_insert_fields_in_rtb.h"
+#include "merge/marker_keys.h"
 #include "merge/merge_services.h"
 #include "services/controls/rich_text_box.h"
 #include "services/errors/procedure.h"

@@ -1,5 +1,6 @@
 #include "merge/merge_services.h"
 
+#include "services/controls/platform.h"
 #include "services/errors/runtime_error.h"
 #include "services/host/clock.h"
 #include "services/host/locale_reference.h"
@@ -28,6 +29,10 @@ std::string traceName(const char* procedure) {
 LocaleReference& locale() { return required(moduleState().localeReference); }
 
 DatabaseReference& store() { return required(moduleState().databaseReference); }
+
+void yieldBeforeFind() {
+  for (int turn = 0; turn < 8; ++turn) DoEvents();
+}
 
 bool harmonisedTaxInForce() { return hostToday() >= DateSerial(2010, 7, 1); }
 

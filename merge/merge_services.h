@@ -20,6 +20,10 @@ std::string traceName(const char* procedure);
 LocaleReference& locale();
 DatabaseReference& store();
 
+// Gives the event pump the eight turns the merge gives it before every
+// findRecord, so that the host's window stays alive during a merge.
+void yieldBeforeFind();
+
 // True when today (the host's clock) is 1 July 2010 or later: from that day
 // British Columbia and Ontario charge the harmonised tax.
 bool harmonisedTaxInForce();

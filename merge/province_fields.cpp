@@ -9,6 +9,7 @@
 // States markers for a US firm, and for a Canadian firm the province's
 // workers' board, sales tax and corporation tax markers.
 
+#include <cstring>
 #include <string>
 #include <vector>
 
@@ -187,28 +188,74 @@ const ProvinceRules& rulesFor(int32_t provinceCode) {
   return provinceRules().back();
 }
 
-void replaceAll(std::string& text, const Replacement& row) {
-  text = Replace(text, row.find, row.replace, CompareMode::Text);
-}
+// A template under rewriting. Most rows look for a marker in one bracket
+// form: such a row looks only where the text has an open bracket of that
+// form, which the rewriter notes, and notes again after every row that
+// changed the text.
+class Rewriter {
+ public:
+  explicit Rewriter(std::string& text) : text_(text) { noteBrackets(); }
 
-void replaceAll(std::string& text, const Replacements& rows) {
-  for (const Replacement& row : rows) replaceAll(text, row);
-}
+  void replaceAll(const Replacement& row) {
+    if (!holds(row.find)) return;
+    text_ = Replace(text_, row.find, row.replace, CompareMode::Text);
+    noteBrackets();
+  }
+  void replaceAll(const Replacements& rows) {
+    for (const Replacement& row : rows) replaceAll(row);
+  }
 
-void convertForProvince(std::string& text, const ProvinceRules& rules) {
-  replaceAll(text, rules.board);
+ private:
+  static constexpr const char* kPlain = "«";
+  static constexpr const char* kRich = "\\'ab";
+
+  bool holds(const std::string& find) const {
+    const std::vector<size_t>* places = find.rfind(kPlain, 0) == 0  ? &plain_
+                                        : find.rfind(kRich, 0) == 0 ? &rich_
+                                                                    : nullptr;
+    if (places == nullptr) return findText(text_, find) != std::string::npos;
+    // The byte behind the bracket tells most places apart at once.
+    const size_t behind = places == &plain_ ? std::strlen(kPlain) : std::strlen(kRich);
+    const char next = lowerAscii(find[behind]);
+    for (size_t at : *places) {
+      const bool mayMatch = static_cast<unsigned char>(next) >= 0x80 ||
+                            (at + behind < text_.size() && lowerAscii(text_[at + behind]) == next);
+      if (mayMatch && matchesTextAt(text_, at, find)) {
+        return true;
+      }
+    }
+    return false;
+  }
+  static char lowerAscii(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c; }
+  void noteBrackets() {
+    for (auto [bracket, places] : {std::pair{kPlain, &plain_}, std::pair{kRich, &rich_}}) {
+      places->clear();
+      for (size_t at = findText(text_, bracket); at != std::string::npos;
+           at = findText(text_, bracket, at + 1)) {
+        places->push_back(at);
+      }
+    }
+  }
+
+  std::string& text_;
+  std::vector<size_t> plain_;  // where "«" stands
+  std::vector<size_t> rich_;   // where "\\'ab" stands, in any case
+};
+
+void convertForProvince(Rewriter& text, const ProvinceRules& rules) {
+  text.replaceAll(rules.board);
   // In both provinces that have the date rule the tax row after it turns
   // the markers back to "«GST Number»": the order stands as it is.
-  if (rules.dateRule && merge::harmonisedTaxInForce()) replaceAll(text, kToHST);
-  replaceAll(text, rules.salesTax);
+  if (rules.dateRule && merge::harmonisedTaxInForce()) text.replaceAll(kToHST);
+  text.replaceAll(rules.salesTax);
   for (const std::string& marker : kCorporationTaxMarkers) {
     if (marker == rules.corporationTax) continue;
     if (rules.keptMarker != nullptr && marker == rules.keptMarker) continue;
-    replaceAll(text, Replacement{marker, rules.corporationTax});
+    text.replaceAll(Replacement{marker, rules.corporationTax});
   }
-  replaceAll(text, rules.extra);
+  text.replaceAll(rules.extra);
   if (rules.unitedStatesBackwards) {
-    for (const Replacement& row : kUnitedStates) replaceAll(text, {row.replace, row.find});
+    for (const Replacement& row : kUnitedStates) text.replaceAll({row.replace, row.find});
   }
 }
 
@@ -217,14 +264,15 @@ void convertForProvince(std::string& text, const ProvinceRules& rules) {
 std::string clsInsertFieldsInRTB::convertProvinceFields(const std::string& text) {
   Procedure proc(merge::traceName("convertProvinceFields"));
   std::string converted = text;
+  Rewriter rewriter(converted);
   std::string result;
-  proc.step([&] { replaceAll(converted, alwaysList()); });
+  proc.step([&] { rewriter.replaceAll(alwaysList()); });
   proc.step([&] {
     const int32_t country = merge::locale().getCountryCode();
     if (country == 2) {
-      replaceAll(converted, kUnitedStates);
+      rewriter.replaceAll(kUnitedStates);
     } else if (country == 1) {
-      convertForProvince(converted, rulesFor(merge::locale().getProvinceCode()));
+      convertForProvince(rewriter, rulesFor(merge::locale().getProvinceCode()));
     }
   });
   // The result is set only at the end of the list: a failure gives "".

@@ -2,6 +2,7 @@
 // item, or the lines of its two field lists.
 
 #include "app/cli/command.h"
+#include "app/cli/merge_options.h"
 #include "app/cli/session.h"
 #include "merge/cls_insert_fields_in_rtb.h"
 #include "services/controls/list_box.h"
@@ -9,15 +10,6 @@
 
 namespace qb::cli {
 namespace {
-
-// The list type the ids ask for, as an empty table chooses it: an
-// appointment, else a task, else a time entry, else a company or contact.
-int32_t listTypeFromIds(const clsInsertFieldsInRTB& fields) {
-  if (fields.AppointmentID() >= 0) return listTypeAppointment;
-  if (fields.taskID() >= 0) return listTypeTask;
-  if (fields.docketId() >= 0) return listTypeTimeEntry;
-  return listTypeCompanyContact;
-}
 
 void printTable(const clsInsertFieldsInRTB& fields, std::ostream& out) {
   FieldListClass table = fields.FieldList();

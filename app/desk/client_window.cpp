@@ -19,6 +19,7 @@
 #include "app/desk/client_picker_dialog.h"
 #include "app/desk/desktop_services.h"
 #include "app/desk/dialog_error_object.h"
+#include "app/desk/merge_document_window.h"
 #include "app/desk/merge_fields_window.h"
 #include "app/desk/window_state.h"
 #include "control/nv_document_quillbox.h"
@@ -137,6 +138,8 @@ void ClientWindow::buildMenus() {
   QMenu* tools = menuBar()->addMenu("&Tools");
   tools->addAction(gui::themeIcon("insert-text"), "&Merge Fields…", this,
                    [this] { openMergeFieldsWindow(*this); });
+  tools->addAction(gui::themeIcon("x-office-document"), "Merge &Document…", this,
+                   [this] { chooseMergeDocument(*this); });
 }
 
 bool ClientWindow::openDatabase(const QString& path) {
@@ -248,8 +251,15 @@ void ClientWindow::wireComponentEvents() {
     int32_t document = documentID;
     if (showClient(false, contactID)) component_->goToDocument(document);
   };
-  quillbox.openDocMerge = [this](int16_t&, std::string& docPath) {
-    statusBar()->showMessage("Merge document: " + QString::fromStdString(docPath), 8000);
+  // A merge document of the list opens in the merge window, for the client
+  // on screen; the component names it by its document type.
+  quillbox.openDocMerge = [this](int16_t& docType, std::string& docPath) {
+    constexpr int16_t kMergeDocumentType = 7;
+    if (docType == kMergeDocumentType) {
+      openMergeDocumentWindow(*this, docPath);
+    } else {
+      statusBar()->showMessage("Merge document: " + QString::fromStdString(docPath), 8000);
+    }
   };
 }
 

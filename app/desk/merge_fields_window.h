@@ -1,10 +1,7 @@
 #pragma once
 // MergeFieldsWindow: the merge fields a template for the client on screen
-// can use, as the merge engine lists them: the client's fields with their
-// category headers on the left, the firm's own fields ("Your ...") with
-// "Insert your Letterhead" on the right, for the firm's locale. A double
-// click (or Enter) on a field puts its marker into the template below at the
-// caret; the letterhead line puts the firm's name and address there.
+// can use (MergeFieldLists), with a template box below them into which a
+// double click on a field puts its marker at the caret.
 //
 // The window reads the store and locale the component was handed (the
 // module state), so it is opened while a client database is hosted.
@@ -13,12 +10,7 @@
 #include <memory>
 
 #include "app/common/client_roster.h"
-
-namespace qb {
-class clsInsertFieldsInRTB;
-class ListBox;
-class RichTextBox;
-}  // namespace qb
+#include "app/desk/merge_field_lists.h"
 
 namespace qb::gui {
 class ListBoxWidget;
@@ -36,23 +28,17 @@ class MergeFieldsWindow : public QDialog {
   MergeFieldsWindow(const hosts::Client& client, QWidget* parent);
   ~MergeFieldsWindow() override;
 
-  ListBox& clientFields() const { return *clientFields_; }
-  ListBox& firmFields() const { return *firmFields_; }
+  ListBox& clientFields() const { return lists_->clientFields(); }
+  ListBox& firmFields() const { return lists_->firmFields(); }
   RichTextBox& templateText() const { return *template_; }
-  gui::ListBoxWidget& clientFieldsWidget() const { return *clientWidget_; }
-  gui::ListBoxWidget& firmFieldsWidget() const { return *firmWidget_; }
+  gui::ListBoxWidget& clientFieldsWidget() const { return lists_->clientFieldsWidget(); }
+  gui::ListBoxWidget& firmFieldsWidget() const { return lists_->firmFieldsWidget(); }
   gui::RichTextBoxWidget& templateWidget() const { return *templateWidget_; }
 
  private:
-  void pick(ListBox& list);
-  void insertLetterhead();
-
-  std::unique_ptr<ListBox> clientFields_;
-  std::unique_ptr<ListBox> firmFields_;
   std::unique_ptr<RichTextBox> template_;
   std::unique_ptr<clsInsertFieldsInRTB> fields_;
-  gui::ListBoxWidget* clientWidget_ = nullptr;
-  gui::ListBoxWidget* firmWidget_ = nullptr;
+  MergeFieldLists* lists_ = nullptr;
   gui::RichTextBoxWidget* templateWidget_ = nullptr;
 };
 

@@ -28,6 +28,9 @@ class LocaleReference {
   virtual int32_t getProvinceCode() = 0;
   virtual int32_t getCurrentUserID() = 0;
   virtual std::string getProductLabel() = 0;
+  // The host application's title, as messages that name the product's pad
+  // show it ("The Orvanta Pad did not recognize ...").
+  virtual std::string getApplicationTitle() = 0;
   // May be null when the host has no form (a command-line host).
   virtual OwnerForm* getOwnerForm() = 0;
   // The helper every dialog form uses; null when the host gives none.
@@ -41,6 +44,7 @@ class FixedLocale : public LocaleReference {
   int32_t provinceCode = 3;
   int32_t userID = 1;
   std::string productLabel = "Orvanta";
+  std::string applicationTitle = "Orvanta";
   OwnerForm* ownerForm = nullptr;
   std::shared_ptr<FormHelper> formHelper;
 
@@ -48,6 +52,7 @@ class FixedLocale : public LocaleReference {
   int32_t getProvinceCode() override { return provinceCode; }
   int32_t getCurrentUserID() override { return userID; }
   std::string getProductLabel() override { return productLabel; }
+  std::string getApplicationTitle() override { return applicationTitle; }
   OwnerForm* getOwnerForm() override { return ownerForm; }
   FormHelper* getFormHelper() override { return formHelper.get(); }
 };

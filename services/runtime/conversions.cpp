@@ -251,7 +251,8 @@ std::string CStr(const Variant& value) {
     case VarType::String:
       return value.rawString();
     case VarType::Date:
-      return dateToText(value.rawDouble());
+      // A date beyond the years 100 to 9999 is an overflow, as CDate says.
+      return dateToText(CDate(value));
   }
   return "";
 }

@@ -48,7 +48,8 @@ double CDate(const Variant& value);
 // Text of the value as the platform writes it: numbers in their shortest form
 // ("1.5", "0", "1", "-2.25"), Booleans "True"/"False", dates as "m/d/yyyy" plus
 // " h:nn:ss AM" when there is a time part, Empty "". Null fails with "Invalid
-// use of Null", as the platform's CStr does.
+// use of Null", as the platform's CStr does; a date beyond the years 100 to
+// 9999 with an overflow.
 std::string CStr(const Variant& value);
 // Like CStr, but Null gives "" (the plain conversion the system uses when it
 // shows a string column as it stands).

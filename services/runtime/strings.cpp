@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstdint>
 #include <cstdio>
+#include <cstring>
 
 #include "services/errors/runtime_error.h"
 
@@ -114,7 +115,113 @@ std::string mapCase(const std::string& text, Map map) {
   return out;
 }
 
-std::string fold(const std::string& text) { return mapCase(text, toLower); }
+std::string fold(std::string_view text) { return mapCase(std::string(text), toLower); }
+
+unsigned char lowerAscii(unsigned char c) { return c >= 'A' && c <= 'Z' ? c + 32 : c; }
+
+// True when a search that ignores case may compare find byte by byte, with
+// only ASCII letters folded: every character of find is ASCII or a sign of
+// U+0080 to U+00BF («, », °, ...), which has no other case and which no
+// other character folds to. Folding keeps every character's byte length, so
+// a match of the folded texts is then a match of the bytes.
+bool byteComparable(std::string_view find) {
+  for (size_t i = 0; i < find.size(); ++i) {
+    const unsigned char c = static_cast<unsigned char>(find[i]);
+    if (c < 0x80) continue;
+    if (c == 0xC2 && i + 1 < find.size() &&
+        (static_cast<unsigned char>(find[i + 1]) & 0xC0) == 0x80) {
+      ++i;
+      continue;
+    }
+    return false;
+  }
+  return true;
+}
+
+bool sameBytesIgnoringAsciiCase(const char* a, const char* b, size_t length) {
+  for (size_t i = 0; i < length; ++i) {
+    if (lowerAscii(static_cast<unsigned char>(a[i])) != static_cast<unsigned char>(b[i])) {
+      return false;
+    }
+  }
+  return true;
+}
+
+// How common a byte (in lower case) is in letters and in RTF source: the
+// search looks for the least common byte of the find first. Letters by
+// their frequency in English text; blanks, backslashes and digits are
+// common; other signs (a quote, "«" and "»") are rare.
+int commonness(unsigned char c) {
+  static constexpr char kLettersRareFirst[] = "zqxjkvbpygfwmucldrhsnioate";
+  if (c >= 'a' && c <= 'z') {
+    return 10 + static_cast<int>(std::strchr(kLettersRareFirst, c) - kLettersRareFirst);
+  }
+  if (c == ' ' || c == '\\' || (c >= '0' && c <= '9')) return 40;
+  return 0;
+}
+
+// The search of findText for a byte-comparable find, already in lower case.
+// The candidates are the places of the find's least common byte, in either
+// case.
+size_t findByteComparable(std::string_view text, std::string_view lowered, size_t from) {
+  size_t anchor = 0;
+  for (size_t i = 1; i < lowered.size(); ++i) {
+    if (commonness(static_cast<unsigned char>(lowered[i])) <
+        commonness(static_cast<unsigned char>(lowered[anchor]))) {
+      anchor = i;
+    }
+  }
+  const unsigned char first = static_cast<unsigned char>(lowered[anchor]);
+  const unsigned char other = first >= 'a' && first <= 'z' ? first - 32 : first;
+  const char* data = text.data();
+  const size_t end =
+      text.size() - lowered.size() + anchor + 1;  // past the last place of the anchor
+  auto next = [&](unsigned char byte, size_t at) -> size_t {
+    if (at >= end) return std::string_view::npos;
+    const void* hit = std::memchr(data + at, byte, end - at);
+    return hit == nullptr ? std::string_view::npos : static_cast<const char*>(hit) - data;
+  };
+  size_t lower = next(first, from + anchor);
+  size_t upper = other == first ? std::string_view::npos : next(other, from + anchor);
+  while (lower != std::string_view::npos || upper != std::string_view::npos) {
+    const bool useLower =
+        upper == std::string_view::npos || (lower != std::string_view::npos && lower < upper);
+    const size_t at = useLower ? lower : upper;
+    if (sameBytesIgnoringAsciiCase(data + at - anchor, lowered.data(), lowered.size())) {
+      return at - anchor;
+    }
+    if (useLower) {
+      lower = next(first, at + 1);
+    } else {
+      upper = next(other, at + 1);
+    }
+  }
+  return std::string_view::npos;
+}
+
+// Character position (from 1) of a byte offset at a character boundary.
+int32_t characterPosition(const std::string& text, size_t byteOffset) {
+  int32_t position = 1;
+  for (size_t i = 0; i < byteOffset;) {
+    size_t length = 1;
+    decode(text, i, length);
+    i += length;
+    ++position;
+  }
+  return position;
+}
+
+// Byte offset of a character position (from 1); npos past the end.
+size_t byteOffsetOf(const std::string& text, int32_t position) {
+  size_t i = 0;
+  for (int32_t at = 1; at < position; ++at) {
+    if (i >= text.size()) return std::string::npos;
+    size_t length = 1;
+    decode(text, i, length);
+    i += length;
+  }
+  return i < text.size() ? i : std::string::npos;
+}
 
 // Windows-1252 bytes 0x80-0x9F and the characters they stand for.
 struct Cp1252 {
@@ -187,40 +294,67 @@ std::string UCase(const std::string& text) { return mapCase(text, toUpper); }
 
 std::string LCase(const std::string& text) { return mapCase(text, toLower); }
 
+size_t findText(std::string_view text, std::string_view find, size_t from) {
+  if (from > text.size()) return std::string_view::npos;
+  if (find.empty()) return from;
+  if (find.size() > text.size() - from) return std::string_view::npos;
+  if (byteComparable(find)) {
+    std::string lowered(find);
+    for (char& c : lowered) c = static_cast<char>(lowerAscii(static_cast<unsigned char>(c)));
+    return findByteComparable(text, lowered, from);
+  }
+  const std::string haystack = fold(text.substr(from));
+  const size_t found = haystack.find(fold(find));
+  return found == std::string::npos ? std::string_view::npos : found + from;
+}
+
+bool matchesTextAt(std::string_view text, size_t at, std::string_view find) {
+  if (at > text.size() || find.size() > text.size() - at) return false;
+  if (!byteComparable(find)) return fold(text.substr(at, find.size())) == fold(find);
+  for (size_t i = 0; i < find.size(); ++i) {
+    if (lowerAscii(static_cast<unsigned char>(text[at + i])) !=
+        lowerAscii(static_cast<unsigned char>(find[i]))) {
+      return false;
+    }
+  }
+  return true;
+}
+
 int32_t InStr(int32_t start, const std::string& text, const std::string& find, CompareMode mode) {
   checkArgument(start >= 1);
-  std::vector<size_t> at = offsets(text);
-  int32_t chars = static_cast<int32_t>(at.size() - 1);
-  if (start > chars) return 0;
+  const bool ascii = isAscii(text);
+  const size_t from =
+      ascii ? (static_cast<size_t>(start) <= text.size() ? start - 1 : std::string::npos)
+            : byteOffsetOf(text, start);
+  if (from == std::string::npos) return 0;
   if (find.empty()) return start;
-  const std::string& haystack = mode == CompareMode::Text ? fold(text) : text;
-  const std::string& needle = mode == CompareMode::Text ? fold(find) : find;
-  size_t found = haystack.find(needle, at[start - 1]);
+  const size_t found =
+      mode == CompareMode::Text ? findText(text, find, from) : text.find(find, from);
   if (found == std::string::npos) return 0;
-  // Map the byte offset back to a character position.
-  size_t lo = 0, hi = at.size() - 1;
-  while (lo < hi) {
-    size_t mid = (lo + hi) / 2;
-    if (at[mid] < found)
-      lo = mid + 1;
-    else
-      hi = mid;
-  }
-  return static_cast<int32_t>(lo) + 1;
+  return ascii ? static_cast<int32_t>(found) + 1 : characterPosition(text, found);
 }
 
 std::string Replace(const std::string& text, const std::string& find,
                     const std::string& replacement, CompareMode mode) {
   if (find.empty()) return text;
-  std::string haystack = mode == CompareMode::Text ? fold(text) : text;
-  std::string needle = mode == CompareMode::Text ? fold(find) : find;
+  // A find that can't be compared byte by byte is looked for in the folded
+  // text, folded once.
+  const bool folded = mode == CompareMode::Text && !byteComparable(find);
+  const std::string haystack = folded ? fold(text) : std::string();
+  const std::string needle = folded ? fold(find) : std::string();
+  auto next = [&](size_t from) {
+    if (folded) return haystack.find(needle, from);
+    return mode == CompareMode::Text ? findText(text, find, from) : text.find(find, from);
+  };
+  size_t at = next(0);
+  if (at == std::string::npos) return text;
   std::string out;
+  out.reserve(text.size());
   size_t from = 0;
-  for (size_t at = haystack.find(needle); at != std::string::npos;
-       at = haystack.find(needle, from)) {
+  for (; at != std::string::npos; at = next(from)) {
     out.append(text, from, at - from);
     out += replacement;
-    from = at + needle.size();
+    from = at + find.size();
   }
   out.append(text, from, std::string::npos);
   return out;
@@ -228,6 +362,15 @@ std::string Replace(const std::string& text, const std::string& find,
 
 bool equalsText(const std::string& a, const std::string& b) {
   if (a.size() != b.size()) return false;
+  if (isAscii(a) && isAscii(b)) {
+    for (size_t i = 0; i < a.size(); ++i) {
+      if (lowerAscii(static_cast<unsigned char>(a[i])) !=
+          lowerAscii(static_cast<unsigned char>(b[i]))) {
+        return false;
+      }
+    }
+    return true;
+  }
   return fold(a) == fold(b);
 }
 

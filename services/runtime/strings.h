@@ -6,6 +6,7 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace qb {
@@ -42,6 +43,15 @@ inline int32_t InStr(const std::string& text, const std::string& find,
                      CompareMode mode = CompareMode::Binary) {
   return InStr(1, text, find, mode);
 }
+
+// Byte offset of the first occurrence of find in text at or after the byte
+// offset from (a character boundary), compared as the Text compare of InStr
+// compares; npos when there is none. An empty find gives from.
+size_t findText(std::string_view text, std::string_view find, size_t from = 0);
+
+// True when find stands in text at the byte offset at (a character
+// boundary), compared as the Text compare does.
+bool matchesTextAt(std::string_view text, size_t at, std::string_view find);
 
 // Replaces every occurrence of find by replacement, left to right, without
 // rescanning the replacement.

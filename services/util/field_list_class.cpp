@@ -32,12 +32,14 @@ void FieldListClass::addFieldRow(int32_t& index, const std::vector<Variant>& col
   }
   positions_.emplace(index, getFieldRowCount());  // the first row with an index keeps it
   rows_.push_back(Row{index, columns});
+  ++generation_;
 }
 
 void FieldListClass::clearFieldRows() {
   rows_.clear();
   positions_.clear();
   current_ = -1;
+  ++generation_;
 }
 
 bool FieldListClass::moveToFieldRow(int32_t& index) {

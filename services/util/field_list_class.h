@@ -29,6 +29,9 @@ class FieldListClass {
   // Empties the table; no row is current.
   void clearFieldRows();
   int32_t getFieldRowCount() const { return static_cast<int32_t>(rows_.size()); }
+  // A number that changes whenever a row is added or the table is emptied:
+  // what a reader derived from the rows stays good while it is the same.
+  uint64_t generation() const { return generation_; }
 
   // Makes the row with this index current; false, and the current row stays
   // what it was, when no row has it. Of two rows with one index the first.
@@ -53,6 +56,7 @@ class FieldListClass {
   std::vector<Row> rows_;
   std::unordered_map<int32_t, int32_t> positions_;  // index to the position of its first row
   int32_t current_ = -1;                            // position of the current row
+  uint64_t generation_ = 0;
 };
 
 }  // namespace qb

@@ -16,21 +16,38 @@
 #include "services/host/module_state.h"
 #include "services/runtime/conversions.h"
 #include "services/runtime/dates.h"
+#include "tests/merge/literal_passes.h"
 #include "tests/support/test_database.h"
 
 namespace qb::test {
 
 // The merge class with its private operations callable.
-class MergeFields : public clsInsertFieldsInRTB {
+class MergeFields : public LiteralMerge {
  public:
+  using clsInsertFieldsInRTB::convertFieldName;
   using clsInsertFieldsInRTB::convertToRTF;
   using clsInsertFieldsInRTB::getAbbreviatedProvince;
   using clsInsertFieldsInRTB::getContactAndSpouseName;
+  using clsInsertFieldsInRTB::getDataFieldInfo;
   using clsInsertFieldsInRTB::getFullProvinceString;
   using clsInsertFieldsInRTB::getTimeDurationFieldValue;
   using clsInsertFieldsInRTB::getTodaysDate;
+  using clsInsertFieldsInRTB::prepareTemplate;
+  using clsInsertFieldsInRTB::replaceText;
+  using clsInsertFieldsInRTB::sweepLiterally;
+  using clsInsertFieldsInRTB::sweepMarkers;
+  using clsInsertFieldsInRTB::testStr;
   using clsInsertFieldsInRTB::verifyFieldListIsPopulated;
   RecordsetHandle contactRecordset() const { return contactRecordset_; }
+  RecordsetHandle companyRecordset() const { return companyRecordset_; }
+  RecordsetHandle softwareRecordset() const { return softwareRecordset_; }
+  RecordsetHandle taskRecordset() const { return taskRecordset_; }
+  RecordsetHandle companyNotesRecordset() const { return companyNotesRecordset_; }
+  // The value of a field by its display name, read as a marker without a
+  // format reads it.
+  std::string valueOf(const std::string& displayName) {
+    return getMergeDataFromDisplayName(displayName);
+  }
 };
 
 class MergeTest : public ::testing::Test {

@@ -3,6 +3,7 @@
 #include "services/runtime/conversions.h"
 
 #include "services/runtime/dates.h"
+#include "services/runtime/format.h"
 #include "tests/services/runtime/runtime_test.h"
 
 namespace qb {
@@ -94,6 +95,12 @@ TEST(Conversions, TextOfValues) {
   EXPECT_RUNTIME_ERROR(CStr(Variant::null()), err::kInvalidUseOfNull);
   EXPECT_EQ(toText(Variant::null()), "");
   EXPECT_EQ(toText(Variant(int32_t{42})), "42");
+  // A date held beyond the years 100 to 9999 has no text (found by fuzzing
+  // the run-time's Format, whose empty pattern writes the value's text).
+  EXPECT_EQ(CStr(Variant::date(2958465.5)), "12/31/9999 12:00:00 PM");
+  EXPECT_RUNTIME_ERROR(CStr(Variant::date(5.1e257)), err::kOverflow);
+  EXPECT_RUNTIME_ERROR(CStr(Variant::date(-657435)), err::kOverflow);
+  EXPECT_RUNTIME_ERROR(Format(Variant::date(5.1e257), ""), err::kOverflow);
 }
 
 TEST(Conversions, RoundHalfToEven) {

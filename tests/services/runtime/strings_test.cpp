@@ -2,6 +2,8 @@
 
 #include "services/runtime/strings.h"
 
+#include <random>
+
 #include "tests/services/runtime/runtime_test.h"
 
 namespace qb {
@@ -50,6 +52,49 @@ TEST(Strings, CaseFoldingAndReplace) {
   EXPECT_EQ(RTrim("  a "), "  a");
   EXPECT_EQ(Split("1|2||3", "|"), (std::vector<std::string>{"1", "2", "", "3"}));
   EXPECT_TRUE(Split("", "|").empty());
+}
+
+// The searches that ignore case compare bytes where the find allows it; they
+// must find what a search of the two texts in lower case finds, also in
+// texts with accented capitals, brackets, stray bytes and RTF escapes.
+TEST(Strings, SearchesIgnoringCaseAgreeWithTheLowerCaseTexts) {
+  const std::vector<std::string> pieces = {"a",        "A",     "b",     "B", "«", "»", "é",
+                                           "É",        "\\'ab", "\\'AB", " ", "ÿ", "Ÿ", "\xC2",
+                                           "\xE2\x82", "<<",    "z",     "Z", "°"};
+  std::mt19937 random(7);
+  auto text = [&](int most) {
+    std::string built;
+    for (int n = std::uniform_int_distribution<int>(0, most)(random); n > 0; --n) {
+      built += pieces[std::uniform_int_distribution<size_t>(0, pieces.size() - 1)(random)];
+    }
+    return built;
+  };
+  for (int round = 0; round < 20000; ++round) {
+    const std::string haystack = text(12);
+    const std::string find = text(3);
+    const std::string foldedHaystack = LCase(haystack);
+    const std::string foldedFind = LCase(find);
+    const size_t at = foldedHaystack.find(foldedFind);
+    const int32_t expected =
+        find.empty() || at == std::string::npos ? 0 : Len(haystack.substr(0, at)) + 1;
+    if (!find.empty()) {
+      ASSERT_EQ(InStr(haystack, find, CompareMode::Text), expected) << haystack << " / " << find;
+      ASSERT_EQ(findText(haystack, find), at) << haystack << " / " << find;
+    }
+    std::string replaced;
+    size_t from = 0;
+    for (size_t hit = foldedHaystack.find(foldedFind); !find.empty() && hit != std::string::npos;
+         hit = foldedHaystack.find(foldedFind, from)) {
+      replaced += haystack.substr(from, hit - from) + "#";
+      from = hit + find.size();
+    }
+    replaced += haystack.substr(from);
+    if (!find.empty()) {
+      ASSERT_EQ(Replace(haystack, find, "#", CompareMode::Text), replaced)
+          << haystack << " / " << find;
+    }
+    ASSERT_EQ(equalsText(haystack, find), foldedHaystack == foldedFind);
+  }
 }
 
 TEST(Strings, RtfEscapes) {
