@@ -12,17 +12,13 @@
 #include <QVBoxLayout>
 
 #include "dialogs/frm_edit_doc_category.h"
-#include "gui/shade_line_widget.h"
 
 namespace qb::gui {
 
 EditDocCategoryDialog::EditDocCategoryDialog(frmEditDocCategory& form, QWidget* parent)
     : FormDialog(form, parent) {
   FormBinder& bind = binder();
-  auto* layout = new QVBoxLayout(this);
-  ShadeLineWidget* heading = bind.header(form.lblHeader(), this);
-  heading->setMinimumHeight(fontMetrics().height() * 2);
-  layout->addWidget(heading);
+  QVBoxLayout* layout = columnUnderHeader(form.lblHeader());
 
   // The category: name, parent, description.
   QGroupBox* information = bind.frame(form.fraCategoryInformation(), this);

@@ -15,11 +15,6 @@
 
 namespace qb::test {
 
-class HostForm : public OwnerForm {
- public:
-  int64_t hWnd() const override { return 4242; }
-};
-
 class CategoryTest : public QuillboxTest {
  protected:
   CategoryTest() {
