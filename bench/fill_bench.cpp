@@ -18,6 +18,7 @@
 #include <thread>
 #include <vector>
 
+#include "bench/slow_share.h"
 #include "control/nv_document_quillbox.h"
 #include "control/row_tags.h"
 #include "data/mod_database_functions.h"
@@ -116,25 +117,6 @@ BulkFirm& bulkFirm() {
   return *firm;
 }
 
-// The firm's files folder as a share where every metadata call costs 200
-// microseconds.
-class SlowShare : public qb::SystemFileFacts {
- public:
-  explicit SlowShare(std::string folder) : folder_(std::move(folder)) {}
-  qb::FileFacts query(const std::string& path) override {
-    std::this_thread::sleep_for(std::chrono::microseconds(200));
-    return SystemFileFacts::query(path);
-  }
-  std::vector<qb::MountPoint> mounts() override {
-    std::vector<qb::MountPoint> all = SystemFileFacts::mounts();
-    all.push_back({folder_, "cifs", true});
-    return all;
-  }
-
- private:
-  std::string folder_;
-};
-
 // Fills the list with a category over the local disk or the slow share, and
 // counts the metadata calls per row.
 void fillCategory(benchmark::State& state, qb::Node* category, bool slowShare) {
@@ -143,7 +125,7 @@ void fillCategory(benchmark::State& state, qb::Node* category, bool slowShare) {
   qb::Node* shown = tree.SelectedItem();
   if (category != nullptr) tree.setSelectedItem(category);
   std::shared_ptr<qb::FileFactsBackend> files =
-      slowShare ? std::make_shared<SlowShare>((firm.folder / "files").string())
+      slowShare ? std::make_shared<qb::bench::SlowShare>((firm.folder / "files").string())
                 : std::make_shared<qb::SystemFileFacts>();
   auto service = std::make_shared<qb::FileFactsService>(files);
   qb::installFileFacts(service);

@@ -12,12 +12,12 @@
 #include <string>
 
 #include "merge/cls_insert_fields_in_rtb.h"
+#include "sample/sample_firm.h"
 #include "services/errors/console_error_object.h"
 #include "services/host/clock.h"
 #include "services/host/locale_reference.h"
 #include "services/host/module_state.h"
 #include "services/runtime/dates.h"
-#include "sample/sample_firm.h"
 #include "services/store/sqlite_database.h"
 #include "tests/merge/literal_passes.h"
 
@@ -135,18 +135,29 @@ void BM_ParseLetterInTestModeLiterally(benchmark::State& state) {
 BENCHMARK(BM_ParseLetterInTestModeLiterally)->Unit(benchmark::kMicrosecond);
 
 // One document of the sample firm merged with its data, the recordsets
-// opened and the field table built for it each time.
-void BM_MergeOneDocument(benchmark::State& state) {
+// opened and the field table built for it each time; by the merge's route
+// and by the literal sweeps.
+template <class Merge, std::string (Merge::*parse)()>
+void mergeOneDocument(benchmark::State& state) {
   SampleFirm firm;
   const std::string letter = rtfLetter();
   for (auto _ : state) {
-    qb::clsInsertFieldsInRTB fields;
+    Merge fields;
     setForLetter(fields);
     fields.initializeDataRecordsetsForSingleDocMerge();
     fields.setTemplateText(letter);
-    benchmark::DoNotOptimize(fields.parseRTBComment());
+    benchmark::DoNotOptimize((fields.*parse)());
   }
 }
+
+void BM_MergeOneDocument(benchmark::State& state) {
+  mergeOneDocument<qb::clsInsertFieldsInRTB, &qb::clsInsertFieldsInRTB::parseRTBComment>(state);
+}
 BENCHMARK(BM_MergeOneDocument)->Unit(benchmark::kMicrosecond);
+
+void BM_MergeOneDocumentLiterally(benchmark::State& state) {
+  mergeOneDocument<qb::test::LiteralMerge, &qb::test::LiteralMerge::parseLiterally>(state);
+}
+BENCHMARK(BM_MergeOneDocumentLiterally)->Unit(benchmark::kMicrosecond);
 
 }  // namespace

@@ -13,6 +13,7 @@
 #include <string>
 
 #include "services/runtime/conversions.h"
+#include "services/store/schema.h"
 #include "services/store/sqlite_database.h"
 
 namespace {
@@ -31,7 +32,14 @@ std::string companiesFile(int rows) {
   db.executeScript(
       "CREATE TABLE Companies (CompanyID INTEGER PRIMARY KEY, CompanyName TEXT, City TEXT);"
       "WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < " +
-      std::to_string(rows) + ") INSERT INTO Companies SELECT i, 'Company ' || i, 'Ottawa' FROM n;");
+      std::to_string(rows) +
+      ") INSERT INTO Companies SELECT i, 'Company ' || i, 'Ottawa' FROM n;"
+      // The mark of a client database, without which the store refuses the file.
+      "PRAGMA application_id=" +
+      std::to_string(qb::kClientDatabaseApplicationId) +
+      ";"
+      "PRAGMA user_version=" +
+      std::to_string(qb::kClientDatabaseSchemaVersion) + ";");
   std::atexit([] {
     for (auto& entry : std::filesystem::directory_iterator(std::filesystem::temp_directory_path()))
       if (entry.path().filename().string().find("qb-bench-companies-") == 0 &&

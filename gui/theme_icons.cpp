@@ -6,6 +6,7 @@
 #include <QPainter>
 #include <QPainterPath>
 #include <QPixmap>
+#include <algorithm>
 
 // The embedded icons' resource is registered from the global namespace, as
 // Qt's resource system requires; the GUI library is static, so the program
@@ -155,13 +156,83 @@ QIcon themeIcon(const std::string& name) {
   return icon;
 }
 
-QIcon iconFor(const Picture& picture) {
+namespace {
+
+// A red disc with a white cross, for a desktop that has no emblem of the
+// name asked.
+QIcon drawnCrossEmblem() {
+  static const QIcon icon = [] {
+    QIcon drawn;
+    for (int size : {8, 12, 16, 24, 32}) {
+      QPixmap pixmap(size, size);
+      pixmap.fill(Qt::transparent);
+      QPainter painter(&pixmap);
+      painter.setRenderHint(QPainter::Antialiasing);
+      painter.setPen(QPen(QColor(140, 20, 20), 1));
+      painter.setBrush(QColor(204, 0, 0));
+      painter.drawEllipse(QRectF(0.5, 0.5, size - 1, size - 1));
+      painter.setPen(QPen(Qt::white, std::max(1.5, size / 8.0), Qt::SolidLine, Qt::RoundCap));
+      const qreal in = size * 0.3;
+      painter.drawLine(QPointF(in, in), QPointF(size - in, size - in));
+      painter.drawLine(QPointF(size - in, in), QPointF(in, size - in));
+      painter.end();
+      drawn.addPixmap(pixmap);
+    }
+    return drawn;
+  }();
+  return icon;
+}
+
+QIcon pictureIcon(const Picture& picture) {
   if (!picture.iconName.empty()) return themeIcon(picture.iconName);
   if (!picture.filePath.empty()) {
     QIcon icon(QString::fromStdString(picture.filePath));
     if (!icon.availableSizes().isEmpty()) return icon;
   }
   return drawnPageIcon();
+}
+
+}  // namespace
+
+QIcon emblemIcon(const std::string& name) {
+  QIcon icon;
+  if (desktopHasIconTheme()) icon = QIcon::fromTheme(QString::fromStdString(name));
+  if (icon.isNull()) icon = shippedIcon(name);
+  return icon.isNull() ? drawnCrossEmblem() : icon;
+}
+
+QIcon iconWithEmblem(const QIcon& icon, const QIcon& emblem) {
+  QIcon marked;
+  for (int size : {16, 22, 24, 32, 48, 64, 96, 128}) {
+    QPixmap pixmap(size, size);
+    pixmap.fill(Qt::transparent);
+    QPainter painter(&pixmap);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    const QPixmap base = icon.pixmap(QSize(size, size), 1.0);
+    painter.drawPixmap((size - base.width()) / 2, (size - base.height()) / 2, base);
+    // Large enough to read on a small icon, small enough to leave a large
+    // one recognisable.
+    const int edge = size <= 24 ? (size * 5 + 7) / 8 : size / 2;
+    const QPixmap mark = emblem.pixmap(QSize(edge, edge), 1.0);
+    painter.drawPixmap(QRect(size - edge, size - edge, edge, edge), mark);
+    painter.end();
+    marked.addPixmap(pixmap);
+  }
+  return marked;
+}
+
+QIcon iconFor(const Picture& picture) {
+  if (picture.emblemName.empty()) return pictureIcon(picture);
+  // Composed once for each icon, emblem and theme: a list asks at every paint.
+  static QHash<QString, QIcon> cache;
+  const QString key = QIcon::themeName() + '/' + QString::fromStdString(picture.iconName) + '/' +
+                      QString::fromStdString(picture.filePath) + '/' +
+                      QString::fromStdString(picture.emblemName);
+  auto found = cache.constFind(key);
+  if (found != cache.constEnd()) return *found;
+  const QIcon icon = iconWithEmblem(pictureIcon(picture), emblemIcon(picture.emblemName));
+  cache.insert(key, icon);
+  return icon;
 }
 
 }  // namespace qb::gui

@@ -43,9 +43,18 @@ QIcon shippedIcon(const std::string& name);
 // The program's own icon, for its windows.
 QIcon programIcon();
 
-// The icon of a picture: an icon by name or an image file. An empty
-// picture, or a file that can't be read, gives the drawn page.
+// The icon of a picture: an icon by name or an image file, with its emblem
+// over the lower right corner when it has one. An empty picture, or a file
+// that can't be read, gives the drawn page.
 QIcon iconFor(const Picture& picture);
+
+// An emblem by name: the desktop theme's, else the shipped one, else a drawn
+// red cross. Never null.
+QIcon emblemIcon(const std::string& name);
+
+// The icon with the emblem drawn over its lower right corner, at every size
+// a list or a dialog asks for.
+QIcon iconWithEmblem(const QIcon& icon, const QIcon& emblem);
 
 // A plain page with a folded corner, drawn, for a file without an icon.
 QIcon drawnPageIcon();

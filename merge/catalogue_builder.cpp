@@ -98,11 +98,17 @@ bool CatalogueBuilder::holds(const When& when) const {
 }
 
 std::string CatalogueBuilder::expand(const char* text) const {
+  // Most texts name no value: they are copied whole. A run over many
+  // clients builds the table for each one.
+  if (std::strchr(text, '{') == nullptr) return text;
   std::string result;
   for (const char* at = text; *at != '\0';) {
     const char* close = *at == '{' ? std::strchr(at, '}') : nullptr;
     if (close == nullptr) {
-      result += *at++;
+      const char* next = std::strchr(at + 1, '{');
+      const size_t length = next != nullptr ? static_cast<size_t>(next - at) : std::strlen(at);
+      result.append(at, length);
+      at += length;
       continue;
     }
     const std::string name(at + 1, close);
@@ -135,7 +141,7 @@ void CatalogueBuilder::raiseCounter() {
 
 void CatalogueBuilder::put(std::vector<Variant> columns, const std::string& listLine) {
   int32_t index = fields_.fieldListCounter_;
-  fields_.fieldList_.addFieldRow(index, columns);
+  fields_.fieldList_.addFieldRow(index, std::move(columns));
   if (bypassListBox_) return;
   box_->AddItem(listLine);
   box_->setItemData(box_->NewIndex(), index);

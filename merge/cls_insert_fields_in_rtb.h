@@ -176,6 +176,10 @@ class clsInsertFieldsInRTB {
   // removed. TemplateText stays as it was. With an empty field table (no
   // item id set) the markers stay.
   std::string parseRTBComment();
+  // TemplateText as the passes read it: normalised, and for a contact
+  // without a company "«Company Name»" as "«Contact Display Name»" when the
+  // class is asked to. For a host that checks what a merge reads.
+  std::string mergedTemplateSource() { return prepareTemplate(); }
   // Removes the markers no sweep replaced: first those in plain brackets;
   // only when there were none, those in RTF source form, which leave their
   // last three characters ("'bb") behind. Compares exactly. A bracket that

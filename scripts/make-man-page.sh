@@ -18,11 +18,13 @@ verbatim() {
 # The commands' names, as --help lists them; a command of a group is named
 # with two words, and its first word alone is no command.
 commands() {
-  "$tool" --help | sed -n '/^Commands:/,/^$/p' | sed '1d;$d' | while read -r first second _; do
-    if "$tool" "$first" --help >/dev/null 2>&1; then
-      echo "$first"
-    else
+  # A line of the list starts with two blanks and a name; a summary too long
+  # for its line continues on the next one, indented further.
+  "$tool" --help | sed -n '/^Commands:/,/^$/p' | grep -E '^  [^ ]' | while read -r first second _; do
+    if "$tool" "$first" "$second" --help >/dev/null 2>&1; then
       echo "$first $second"
+    else
+      echo "$first"
     fi
   done
 }

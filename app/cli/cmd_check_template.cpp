@@ -44,8 +44,8 @@ const CommandRegistration registration(Command{
                 "                     (\\'ab and \\'bb), and at no others\n"
                 "  --skip-fields      do not check the names of the fields\n"
                 "  --db FILE          the client database (its custom field labels)\n") +
-        kMergeItemHelp,
-    withMergeItems({"text", "template", "db"}),
+        kMergeItemHelp + kMergeUseHelp,
+    withMergeItemsAndUse({"text", "template", "db"}),
     {"rich", "skip-fields"},
     runCheckTemplate,
     false,

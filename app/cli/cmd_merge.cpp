@@ -53,7 +53,7 @@ const CommandRegistration registration(Command{
                 "  --text TEXT        the template itself\n"
                 "  --template FILE    a file that holds the template (plain text or RTF)\n"
                 "  --db FILE          the client database\n") +
-        kMergeItemHelp +
+        kMergeItemHelp + kMergeUseHelp +
         "  --test             merge the fields' sample values, not the client's data\n"
         "  --rtf, --plain     values made ready for RTF (line breaks as paragraphs,\n"
         "                     accents as escapes, a blank after a control word) or\n"
@@ -63,7 +63,7 @@ const CommandRegistration registration(Command{
         "  --company-as-contact\n"
         "                     for a contact without a company, «Company Name» stands\n"
         "                     for «Contact Display Name»\n",
-    withMergeItems({"text", "template", "db"}),
+    withMergeItemsAndUse({"text", "template", "db"}),
     {"test", "rtf", "plain", "no-wrap", "company-as-contact"},
     runMerge,
     false,

@@ -29,10 +29,17 @@ void printToolHelp(std::ostream& out) {
   auto commands = commandRegistry();
   std::sort(commands.begin(), commands.end(),
             [](const Command& a, const Command& b) { return a.name < b.name; });
+  // A name too long for the column has its summary on the next line, under
+  // the others.
+  constexpr size_t kColumn = 18;
   for (const Command& command : commands) {
-    out << "  " << command.name
-        << std::string(command.name.size() < 18 ? 18 - command.name.size() : 1, ' ')
-        << command.summary << "\n";
+    out << "  " << command.name;
+    if (command.name.size() < kColumn) {
+      out << std::string(kColumn - command.name.size(), ' ');
+    } else {
+      out << "\n" << std::string(kColumn + 2, ' ');
+    }
+    out << command.summary << "\n";
   }
   out << "\n" << kGlobalHelp << "\nRun 'quillbox COMMAND --help' for a command's options.\n";
 }
@@ -116,6 +123,12 @@ void parseCommandName(const std::vector<std::string>& words, size_t& i, CommandL
   if (line.command != nullptr) return;
   std::vector<std::string> group = groupCommands(word);
   if (group.empty()) throw UsageError("unknown command '" + word + "'");
+  // "quillbox links --help" asks for the group's commands.
+  if (std::any_of(words.begin() + static_cast<std::ptrdiff_t>(i), words.end(),
+                  [](const std::string& w) { return w == "--help" || w == "-h"; })) {
+    line.group = word;
+    return;
+  }
   std::string list;
   for (const std::string& name : group) list += "\n  " + name;
   throw UsageError("'" + word + "' needs one of its commands:" + list);
@@ -133,7 +146,7 @@ void parseCommandLine(const std::vector<std::string>& words, CommandLine& line) 
       return;
     } else if (word.rfind("--", 0) == 0) {
       parseOption(words, i, line);
-    } else if (line.command == nullptr) {
+    } else if (line.command == nullptr && line.group.empty()) {
       parseCommandName(words, i, line);
     } else {
       throw UsageError("unexpected argument '" + word + "'");
@@ -149,6 +162,18 @@ int runTool(const std::vector<std::string>& words, std::ostream& out, std::ostre
     parseCommandLine(words, line);
     if (line.version) {
       out << "quillbox " << QB_VERSION << "\n";
+      return 0;
+    }
+    if (line.command == nullptr && !line.group.empty()) {
+      out << "The commands of '" << line.group << "':\n";
+      const std::vector<std::string> names = groupCommands(line.group);
+      size_t width = 0;
+      for (const std::string& name : names) width = std::max(width, name.size());
+      for (const std::string& name : names) {
+        out << "  " << name << std::string(width + 2 - name.size(), ' ')
+            << findCommand(name)->summary << "\n";
+      }
+      out << "\nRun 'quillbox " << line.group << " COMMAND --help' for a command's options.\n";
       return 0;
     }
     if (line.command == nullptr) {

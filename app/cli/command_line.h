@@ -15,6 +15,7 @@ namespace qb::cli {
 struct CommandLine {
   const Command* command = nullptr;
   bool help = false;
+  std::string group;     // a group's word alone with --help: list its commands
   bool version = false;  // --version: the rest is not read
   Arguments args;
 };

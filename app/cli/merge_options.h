@@ -5,6 +5,7 @@
 // schedule row), --docket, --list-type and --use.
 
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "app/cli/command.h"
@@ -15,10 +16,10 @@ namespace qb::cli {
 // --schedule names a schedule row (its task is the merge's).
 inline const IdOption kScheduleId = {"schedule", "Schedule", "ScheduleID", "schedule row"};
 
-// The value options of the merge's items and list.
-inline const std::vector<std::string> kMergeItemOptions = {
-    "list-type", "use",         "company", "contact",  "firm",
-    "employee",  "appointment", "task",    "schedule", "docket"};
+// The value options of the merge's items and list type.
+inline const std::vector<std::string> kMergeItemOptions = {"list-type", "company",  "contact",
+                                                           "firm",      "employee", "appointment",
+                                                           "task",      "schedule", "docket"};
 
 // Their lines for a command's --help.
 inline constexpr const char* kMergeItemHelp =
@@ -33,7 +34,9 @@ inline constexpr const char* kMergeItemHelp =
     "  --list-type N      what the field list describes: 1 company, 2 company or\n"
     "                     contact, 3 contact, 5 appointment, 6 time entry, 8 task.\n"
     "                     Default: 5 with --appointment, else 8 with a task, else 6\n"
-    "                     with --docket, else 2\n"
+    "                     with --docket, else 2\n";
+// The line of --use, for the commands that take it.
+inline constexpr const char* kMergeUseHelp =
     "  --use N            what the list is for: 1 merge (default), 2 a run over\n"
     "                     many clients, 3 assigning a field, 5 write-back\n";
 
@@ -46,7 +49,8 @@ inline int32_t listTypeFromIds(const clsInsertFieldsInRTB& fields) {
   return listTypeCompanyContact;
 }
 
-// Sets the merge's items, use and list type from the options. Call it once
+// Sets the merge's items, use (when the command takes it) and list type
+// from the options. Call it once
 // the session is open: --schedule looks its task up in the database.
 inline void setMergeItems(clsInsertFieldsInRTB& fields, const Arguments& args) {
   if (args.has("task") && args.has("schedule")) {
@@ -68,6 +72,11 @@ inline void setMergeItems(clsInsertFieldsInRTB& fields, const Arguments& args) {
 inline std::vector<std::string> withMergeItems(std::vector<std::string> own) {
   own.insert(own.end(), kMergeItemOptions.begin(), kMergeItemOptions.end());
   return own;
+}
+// The same with --use.
+inline std::vector<std::string> withMergeItemsAndUse(std::vector<std::string> own) {
+  own.push_back("use");
+  return withMergeItems(std::move(own));
 }
 
 }  // namespace qb::cli

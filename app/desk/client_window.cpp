@@ -19,6 +19,8 @@
 #include "app/desk/client_picker_dialog.h"
 #include "app/desk/desktop_services.h"
 #include "app/desk/dialog_error_object.h"
+#include "app/desk/link_health_window.h"
+#include "app/desk/lookup_fill_dialog.h"
 #include "app/desk/merge_document_window.h"
 #include "app/desk/merge_fields_window.h"
 #include "app/desk/window_state.h"
@@ -99,6 +101,8 @@ void ClientWindow::buildMenus() {
   QAction* open = file->addAction(gui::themeIcon("document-open"), "&Open Database…", this,
                                   [this] { chooseDatabase(); });
   open->setShortcut(QKeySequence::Open);
+  file->addAction(gui::themeIcon("emblem-unreadable"), "&Link Health…", this,
+                  [this] { openLinkHealthWindow(*this); });
   file->addSeparator();
   QAction* quit =
       file->addAction(gui::themeIcon("application-exit"), "&Quit", this, [this] { close(); });
@@ -140,6 +144,9 @@ void ClientWindow::buildMenus() {
                    [this] { openMergeFieldsWindow(*this); });
   tools->addAction(gui::themeIcon("x-office-document"), "Merge &Document…", this,
                    [this] { chooseMergeDocument(*this); });
+  tools->addSeparator();
+  tools->addAction(gui::themeIcon("view-refresh"), "Fill &Lookup Column…", this,
+                   [this] { openLookupFillDialog(*this); });
 }
 
 bool ClientWindow::openDatabase(const QString& path) {

@@ -45,11 +45,14 @@ namespace fs = std::filesystem;
 bool startsAsRtf(const std::string& text) { return text.rfind("{\\rtf", 0) == 0; }
 
 // A client's name as a part of a file name: no folder separators or other
-// characters file managers refuse.
+// characters file managers refuse, and no dot at its end to run into the
+// extension ("Ltd." gives "Ltd.rtf", not "Ltd..rtf").
 std::string fileNamePart(const std::string& name) {
   std::string part;
   for (char c : name) part += std::string("/\\:*?\"<>|").find(c) == std::string::npos ? c : '-';
-  return Trim(part).empty() ? std::string("client") : Trim(part);
+  part = Trim(part);
+  while (!part.empty() && (part.back() == '.' || part.back() == ' ')) part.pop_back();
+  return part.empty() ? std::string("client") : part;
 }
 
 }  // namespace
@@ -182,18 +185,26 @@ void MergeDocumentWindow::say(const QString& text, bool problem) {
   message_->setStyleSheet(problem ? "color: #a40000;" : "");
 }
 
-bool MergeDocumentWindow::check() {
-  std::string message;
+bool MergeDocumentWindow::testTemplate(std::string text, std::string& message) {
+  message.clear();
   fields_->testErrorComment = [&](std::string& raised) { message = raised; };
-  std::string text = templateText();
   const bool bad = fields_->testRTBComment(text, rich_, true, false);
   fields_->testErrorComment = nullptr;
-  if (bad) {
-    say(QString::fromStdString(Replace(message, "\r\n", "\n")), true);
-  } else {
-    say("The template's markers are all good.", false);
-  }
+  message = Replace(message, "\r\n", "\n");
   return !bad;
+}
+
+bool MergeDocumentWindow::check() {
+  std::string message;
+  const bool good = testTemplate(mergeSource(), message);
+  if (good) {
+    say("The template's markers are all good.", false);
+  } else {
+    say(message.empty() ? QString("The check of the template failed.")
+                        : QString::fromStdString(message),
+        true);
+  }
+  return good;
 }
 
 std::string MergeDocumentWindow::mergeText(bool test) {
@@ -206,14 +217,25 @@ std::string MergeDocumentWindow::mergeText(bool test) {
   return merge.parseRTBComment();
 }
 
-void MergeDocumentWindow::preview() {
-  const std::string merged = mergeText(true);
+std::string MergeDocumentWindow::mergeSource() {
+  clsInsertFieldsInRTB merge;
+  setMergeClient(merge, client_);
+  merge.setTemplateText(templateText());
+  return merge.mergedTemplateSource();
+}
+
+void MergeDocumentWindow::showMerged(const std::string& merged, const QString& caption) {
   if (rich_) {
     preview_->setHtml(rtfToHtml(merged));
   } else {
     preview_->setPlainText(QString::fromStdString(merged));
   }
+  tabs_->setTabText(tabs_->indexOf(preview_), caption);
   tabs_->setCurrentWidget(preview_);
+}
+
+void MergeDocumentWindow::preview() {
+  showMerged(mergeText(true), "Preview");
   say("The preview shows the fields' sample values.", false);
 }
 
@@ -243,9 +265,16 @@ std::string MergeDocumentWindow::merge() {
   }
   merged_ = target;
   open_->setEnabled(true);
-  say(QString("Merged for %1: saved as %2.")
-          .arg(QString::fromStdString(client_.name), QString::fromStdString(target)),
-      false);
+  showMerged(merged, "Merged Document");
+  QString said = QString("Merged for %1: saved as %2.")
+                     .arg(QString::fromStdString(client_.name), QString::fromStdString(target));
+  // The merge removes what names no field of this client; the check says
+  // what that was, so that a marker gone missing does not go unnoticed.
+  std::string problem;
+  const bool good = testTemplate(mergeSource(), problem);
+  if (!good && !problem.empty())
+    said += "\nThe check of the template: " + QString::fromStdString(problem);
+  say(said, !good);
   return target;
 }
 

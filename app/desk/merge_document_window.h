@@ -51,13 +51,15 @@ class MergeDocumentWindow : public QDialog {
   std::string templateText() const;
   bool isRichText() const { return rich_; }
 
-  // The template check with messages; true when the template is good. The
-  // message (or that it is good) shows in the message line.
+  // The template check with messages, on the template as the merge for the
+  // client reads it; true when the template is good. The message (or that
+  // it is good) shows in the message line.
   bool check();
   // Merges the sample values and shows the result in the Preview tab.
   void preview();
-  // Merges the client's data and saves the document beside the template;
-  // the path written, or "" when nothing could be written.
+  // Merges the client's data, saves the document beside the template and
+  // shows it in the second tab; the path written, or "" when nothing could
+  // be written.
   std::string merge();
   // Opens the document the last merge saved in the desktop's default
   // application.
@@ -69,6 +71,7 @@ class MergeDocumentWindow : public QDialog {
 
   // What the window shows, for tests.
   QString message() const;
+  // The text of the second tab: the preview or the merged document.
   QString previewText() const;
   MergeFieldLists& fieldLists() const { return *lists_; }
   RichTextBox& editor() const { return *template_; }
@@ -87,8 +90,16 @@ class MergeDocumentWindow : public QDialog {
   void buildButtons(QBoxLayout* layout);
   void load();
   void say(const QString& text, bool problem);
+  // The template check with messages on text; true when good, else the
+  // message raised (empty when the check failed without one).
+  bool testTemplate(std::string text, std::string& message);
   // The merge set for the client, in test mode or not.
   std::string mergeText(bool test);
+  // The template as the merge for the client reads it (a contact's name
+  // standing for the company's), which the check looks at.
+  std::string mergeSource();
+  // Shows a merged text (RTF as it reads) in the second tab, under caption.
+  void showMerged(const std::string& merged, const QString& caption);
 
   std::string path_;
   hosts::Client client_;

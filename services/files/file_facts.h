@@ -31,7 +31,9 @@ struct FileFacts {
   FileReach reach = FileReach::unreachable;
   bool isFolder = false;
   uint64_t size = 0;
-  uint32_t mode = 0;  // permission bits (0777)
+  uint32_t mode = 0;   // permission bits (0777)
+  uint32_t owner = 0;  // the owning user's id
+  uint32_t group = 0;  // the owning group's id
   FileTime accessed, modified, changed, born;
   bool hasBirth = false;  // the file system keeps a birth time
   // True when the answer came from a share that stopped answering: the call

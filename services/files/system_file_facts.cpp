@@ -95,13 +95,15 @@ bool isRemoteFileSystem(const std::string& type) {
 FileFacts SystemFileFacts::query(const std::string& path) {
   if (path.empty()) return FileFacts::of(FileReach::missing);
   struct statx stx {};
-  const unsigned mask =
-      STATX_TYPE | STATX_MODE | STATX_SIZE | STATX_ATIME | STATX_MTIME | STATX_CTIME | STATX_BTIME;
+  const unsigned mask = STATX_TYPE | STATX_MODE | STATX_UID | STATX_GID | STATX_SIZE | STATX_ATIME |
+                        STATX_MTIME | STATX_CTIME | STATX_BTIME;
   if (statx(AT_FDCWD, path.c_str(), 0, mask, &stx) != 0) return FileFacts::of(reachOfError(errno));
   FileFacts facts = FileFacts::of(FileReach::present);
   facts.isFolder = S_ISDIR(stx.stx_mode);
   facts.size = stx.stx_size;
   facts.mode = stx.stx_mode & 07777;
+  facts.owner = stx.stx_uid;
+  facts.group = stx.stx_gid;
   facts.accessed = timeOf(stx.stx_atime);
   facts.modified = timeOf(stx.stx_mtime);
   facts.changed = timeOf(stx.stx_ctime);

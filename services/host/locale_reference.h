@@ -33,6 +33,9 @@ class LocaleReference {
   virtual std::string getApplicationTitle() = 0;
   // May be null when the host has no form (a command-line host).
   virtual OwnerForm* getOwnerForm() = 0;
+  // The personal tax year the firm works on: the year that limits personal
+  // tax rows when no other is given.
+  virtual int32_t getCurrentTaxYear() = 0;
   // The helper every dialog form uses; null when the host gives none.
   virtual FormHelper* getFormHelper() { return nullptr; }
 };
@@ -47,6 +50,9 @@ class FixedLocale : public LocaleReference {
   std::string applicationTitle = "Orvanta";
   OwnerForm* ownerForm = nullptr;
   std::shared_ptr<FormHelper> formHelper;
+  // 0: the calendar year before today's (the host's clock), the last whole
+  // year, whose returns the firm prepares.
+  int32_t taxYear = 0;
 
   int32_t getCountryCode() override { return countryCode; }
   int32_t getProvinceCode() override { return provinceCode; }
@@ -54,6 +60,7 @@ class FixedLocale : public LocaleReference {
   std::string getProductLabel() override { return productLabel; }
   std::string getApplicationTitle() override { return applicationTitle; }
   OwnerForm* getOwnerForm() override { return ownerForm; }
+  int32_t getCurrentTaxYear() override;
   FormHelper* getFormHelper() override { return formHelper.get(); }
 };
 

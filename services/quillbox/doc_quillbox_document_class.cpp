@@ -22,19 +22,20 @@ std::string nameWithoutExtension(const fileUtilitiesClass& files, const std::str
 
 }  // namespace
 
-void docQuillboxDocumentClass::setIcons(const std::string& iconName) {
-  smallIconPicture_ = Picture::themeIcon(iconName, kSmallIconSize);
-  largeIconPicture_ = Picture::themeIcon(iconName, kLargeIconSize);
+void docQuillboxDocumentClass::setIcons(const std::string& iconName, const std::string& emblem) {
+  smallIconPicture_ = Picture::themeIcon(iconName, kSmallIconSize).withEmblem(emblem);
+  largeIconPicture_ = Picture::themeIcon(iconName, kLargeIconSize).withEmblem(emblem);
 }
 
 void docQuillboxDocumentClass::readFileFacts() {
   fileUtilitiesClass files;
   bool isFolder = false;
   fileAccessState_ = files.accessState(documentPath_, &isFolder);
+  const std::string typeIcon = iconNameForExtension(files.getFileExtension(documentPath_));
   if (fileAccessState_ != FileAccessState::reachable) {
-    setIcons(kUnreachableIcon);
+    setIcons(typeIcon, kBrokenLinkEmblem);
   } else {
-    setIcons(isFolder ? kFolderIcon : iconNameForExtension(files.getFileExtension(documentPath_)));
+    setIcons(isFolder ? kFolderIcon : typeIcon);
   }
 }
 

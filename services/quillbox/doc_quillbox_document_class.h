@@ -11,8 +11,9 @@
 //
 // Icons: a document always has both pictures once loaded or added, icons of
 // the desktop's theme by the file's extension ("application-pdf",
-// "x-office-spreadsheet", "folder" for a folder), and "dialog-warning" when
-// its file can't be reached.
+// "x-office-spreadsheet", "folder" for a folder), with the broken-link
+// emblem (kBrokenLinkEmblem) over the type's icon when its file can't be
+// reached.
 //
 // Merge documents: the host's own merge documents are files with the
 // extension ".omd"; isMergeDocument tells them.
@@ -87,7 +88,7 @@ class docQuillboxDocumentClass {
  private:
   // Takes the state of the file at documentPath and the icons that follow.
   void readFileFacts();
-  void setIcons(const std::string& iconName);
+  void setIcons(const std::string& iconName, const std::string& emblem = "");
 
   int32_t documentID_ = -1;
   int32_t docCategoryNum_ = -1;

@@ -13,8 +13,9 @@ std::string iconNameForExtension(const std::string& extension);
 
 constexpr const char* kGenericFileIcon = "text-x-generic";
 constexpr const char* kFolderIcon = "folder";
-// A link whose file or folder can't be reached.
-constexpr const char* kUnreachableIcon = "dialog-warning";
+// The emblem over the icon of a link whose file or folder can't be reached:
+// the icon keeps the file's type, the emblem tells that the link is broken.
+constexpr const char* kBrokenLinkEmblem = "emblem-unreadable";
 
 // Pixel sizes of the small and the large icon.
 constexpr int kSmallIconSize = 16;

@@ -27,11 +27,15 @@ void FieldListClass::addFieldRow(int32_t& index, std::initializer_list<Variant> 
 }
 
 void FieldListClass::addFieldRow(int32_t& index, const std::vector<Variant>& columns) {
+  addFieldRow(index, std::vector<Variant>(columns));
+}
+
+void FieldListClass::addFieldRow(int32_t& index, std::vector<Variant>&& columns) {
   if (static_cast<int32_t>(columns.size()) > kColumns) {
     throw RuntimeError(err::kInvalidCall, "Invalid procedure call or argument");
   }
   positions_.emplace(index, getFieldRowCount());  // the first row with an index keeps it
-  rows_.push_back(Row{index, columns});
+  rows_.push_back(Row{index, std::move(columns)});
   ++generation_;
 }
 

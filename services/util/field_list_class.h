@@ -26,6 +26,7 @@ class FieldListClass {
   // new row does not become current.
   void addFieldRow(int32_t& index, std::initializer_list<Variant> columns);
   void addFieldRow(int32_t& index, const std::vector<Variant>& columns);
+  void addFieldRow(int32_t& index, std::vector<Variant>&& columns);
   // Empties the table; no row is current.
   void clearFieldRows();
   int32_t getFieldRowCount() const { return static_cast<int32_t>(rows_.size()); }

@@ -10,6 +10,7 @@
 #include <system_error>
 
 #include "services/files/file_facts_service.h"
+#include "services/files/reader_rights.h"
 #include "services/runtime/dates.h"
 
 namespace qb {
@@ -96,6 +97,10 @@ FileAccessState fileUtilitiesClass::accessState(const std::string& path, bool* i
   FileFacts facts = fileFacts().facts(path);
   if (facts.present()) {
     if (isFolder != nullptr) *isFolder = facts.isFolder;
+    // A file is there but can't be opened by this user: told by its bits,
+    // from the same query.
+    if (!facts.isFolder && !ReaderRights::ofThisProcess().mayRead(facts))
+      return FileAccessState::accessDenied;
     return FileAccessState::reachable;
   }
   if (facts.reach != FileReach::missing)

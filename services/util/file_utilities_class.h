@@ -21,10 +21,10 @@ namespace qb {
 // Why a path can or can't be reached, in the order the properties dialog
 // explains it.
 enum class FileAccessState {
-  reachable,      // the path names an existing file or folder
+  reachable,      // the path names an existing file or folder this user may read
   missingFile,    // the folder is there, the file is not
   missingFolder,  // the folder that should hold the file is not there
-  accessDenied,   // a folder on the way may not be searched or read
+  accessDenied,   // a folder on the way may not be searched, or the file not read
   unreachable,    // the file system failed or did not answer in time (a dead share)
 };
 

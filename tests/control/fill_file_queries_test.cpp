@@ -7,6 +7,7 @@
 #include "services/files/file_facts_service.h"
 #include "services/files/system_file_facts.h"
 #include "services/quillbox/file_icons.h"
+#include "services/util/file_utilities_class.h"
 #include "services/util/standard_form_helper.h"
 #include "tests/control/quillbox_test.h"
 
@@ -77,8 +78,11 @@ TEST_F(FillFileQueriesTest, EachFileIsAskedOnceAndADeadShareGivesRowsOfMissingFi
   for (int32_t i = 1; i <= 3; ++i) {
     const ListItem& row = list.ListItems().item(i);
     EXPECT_EQ(row.SubItems(1) + "|" + row.SubItems(2) + "|" + row.SubItems(5), "0 Mb||");
-    EXPECT_EQ(quillbox.iglListViewSmallIcons().pictureOf(Variant(row.SmallIcon())),
-              Picture::themeIcon(quillboxLibrary::kUnreachableIcon, 16));
+    // The file type's icon with the broken-link emblem over it.
+    const Picture icon = quillbox.iglListViewSmallIcons().pictureOf(Variant(row.SmallIcon()));
+    EXPECT_EQ(icon.emblemName, quillboxLibrary::kBrokenLinkEmblem);
+    EXPECT_EQ(icon.iconName, quillboxLibrary::iconNameForExtension(
+                                 fileUtilitiesClass().getFileExtension(row.SubItems(3))));
   }
   // While those calls still hang, opening gives up at once: the missing-file
   // dialog explains (no file manager, no question).

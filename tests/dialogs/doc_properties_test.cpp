@@ -124,7 +124,8 @@ TEST_F(DocPropertiesTest, AMissingFileIsExplainedByTheFirstOfThreeStatesThatAppl
            {&form.txtFileSize(), &form.txtCreated(), &form.txtModified(), &form.txtAccessed()})
         EXPECT_EQ(box->Text(), "Unknown");
       EXPECT_FALSE(form.lblReadOnly().Visible());
-      EXPECT_EQ(form.IconImage().Picture(), Picture::themeIcon("dialog-warning", 32));
+      EXPECT_EQ(form.IconImage().Picture(),
+                Picture::themeIcon("x-office-spreadsheet", 32).withEmblem("emblem-unreadable"));
       form.cmdClose().click();
     });
     frmDocProperties dialog;

@@ -73,7 +73,7 @@ TEST(ShippedIcons, EveryIconTheProgramAsksForDrawsAtEverySize) {
                                     "folder-new",
                                     "folder-open",
                                     quillboxLibrary::kFolderIcon,
-                                    quillboxLibrary::kUnreachableIcon};
+                                    quillboxLibrary::kBrokenLinkEmblem};
   for (const char* extension : {"pdf", "docx", "xlsx", "pptx", "jpg", "txt", "html", "xml", "msg",
                                 "zip", "mp3", "mov", "exe", "unknown"}) {
     names.push_back(quillboxLibrary::iconNameForExtension(extension));

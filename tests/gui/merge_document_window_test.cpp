@@ -38,14 +38,6 @@ void write(const std::string& path, const std::string& text) {
   std::ofstream(path, std::ios::binary) << text;
 }
 
-void shoot(QWidget& window, const std::string& name, const TempFolder& folder) {
-  const char* dir = std::getenv("QB_SCREENSHOT_DIR");
-  const QString path =
-      QString::fromStdString((dir ? std::string(dir) : folder.path().string()) + "/" + name);
-  QDir().mkpath(QFileInfo(path).absolutePath());
-  EXPECT_TRUE(window.grab().save(path, "PNG")) << path.toStdString();
-}
-
 const char* const kLetter =
     "{\\rtf1\\ansi\\ansicpg1252\\deff0{\\fonttbl{\\f0\\fswiss Arial;}}\r\n"
     "\\pard\\f0\\fs20 \\'ab(Todays Date, mmmm d, yyyy)\\'bb\\par\r\n"
@@ -89,26 +81,26 @@ TEST_F(MergeDocument, AnRtfLetterIsCheckedPreviewedAndMergedForTheClientOnScreen
   EXPECT_EQ(document.templateText(), kLetter);  // the file's bytes, as long as not edited
   EXPECT_TRUE(document.check());
   EXPECT_EQ(document.message(), "The template's markers are all good.");
-  shoot(document, "merge-document-opened.png", folder_);
+  screenshotOf(document, "merge-document-opened");
 
   document.preview();
   const QString preview = document.previewText();
   EXPECT_TRUE(preview.contains("ABC Consulting")) << preview.toStdString();
   EXPECT_TRUE(preview.contains("Dear Jane,")) << preview.toStdString();
   EXPECT_FALSE(preview.contains("\\")) << "control words in the preview";
-  shoot(document, "merge-document-preview.png", folder_);
+  screenshotOf(document, "merge-document-preview");
 
   // The merge is saved beside the template, named for the client; a second
   // merge never writes over the first.
   const std::string merged = document.merge();
-  EXPECT_EQ(merged, folder_.file("Engagement - Maple Leaf Bakery Ltd..rtf"));
+  EXPECT_EQ(merged, folder_.file("Engagement - Maple Leaf Bakery Ltd.rtf"));
   const std::string rtf = read(merged);
   EXPECT_EQ(rtf.rfind("{\\rtf1\\ansi", 0), 0u);
   EXPECT_NE(rtf.find("\\b Maple Leaf Bakery Ltd.\\b0"), std::string::npos) << rtf;
   EXPECT_NE(rtf.find("Your year ends on December 31 2025"), std::string::npos) << rtf;
   EXPECT_EQ(rtf.find("\\'ab"), std::string::npos) << rtf;
   EXPECT_TRUE(document.message().contains("saved as")) << document.message().toStdString();
-  EXPECT_EQ(document.merge(), folder_.file("Engagement - Maple Leaf Bakery Ltd. (2).rtf"));
+  EXPECT_EQ(document.merge(), folder_.file("Engagement - Maple Leaf Bakery Ltd (2).rtf"));
   EXPECT_EQ(read(folder_.file("Engagement.omd")), kLetter);  // the template as it was
 }
 
@@ -142,7 +134,58 @@ TEST_F(MergeDocument, AMergeDocumentOfTheClientsListOpensInTheMergeWindow) {
   const std::string merged = document->merge();
   document->openMerged();
   EXPECT_NE(launched_.str().find("open " + merged), std::string::npos) << launched_.str();
-  shoot(*document, "merge-document-from-list.png", folder_);
+  screenshotOf(*document, "merge-document-from-list");
+}
+
+TEST_F(MergeDocument, EachClientsDocumentIsNamedForItAndReadsAsRtf) {
+  // A company with accents in its name: the file is named for it, its RTF
+  // writes them as the code page's escapes, its default contact is greeted.
+  ASSERT_TRUE(window_->showClient(true, 3));
+  settle();
+  desk::MergeDocumentWindow& company = open("Engagement.omd", kLetter);
+  const std::string merged = company.merge();
+  EXPECT_EQ(merged, folder_.file("Engagement - C\u00f4t\u00e9 Plomberie Inc.rtf"));
+  const std::string rtf = read(merged);
+  // The address follows a line end, not a blank, so the first occurrence's
+  // guard puts a blank before it.
+  EXPECT_NE(rtf.find("\\b C\\'f4t\\'e9 Plomberie Inc.\\b0\\par\r\n 87 rue Principale\\par\r\n"
+                     "Dear Pierre,\\par"),
+            std::string::npos)
+      << rtf;
+  EXPECT_EQ(company.message().toStdString(),
+            "Merged for C\u00f4t\u00e9 Plomberie Inc.: saved as " + merged + ".");
+  // The window shows the document as it reads, not its source.
+  const QString shown = company.previewText();
+  EXPECT_TRUE(shown.contains("C\u00f4t\u00e9 Plomberie Inc.\n 87 rue Principale\nDear Pierre,"))
+      << shown.toStdString();
+  EXPECT_TRUE(shown.contains("Your year ends on December 31 2025.")) << shown.toStdString();
+  screenshotOf(company, "merge-document-merged");
+  company.close();
+  settle();
+
+  // A contact: her name stands where the template names the company. The
+  // company's address and year end are no fields of hers: the merge removes
+  // them (an RTF marker leaves "'bb"), and the window says what the check
+  // finds.
+  ASSERT_TRUE(window_->showClient(false, 12));
+  settle();
+  desk::MergeDocumentWindow& contact = open("Engagement.omd", kLetter);
+  const std::string hers = contact.merge();
+  EXPECT_EQ(hers, folder_.file("Engagement - Anika Sharma.rtf"));
+  EXPECT_NE(read(hers).find("\\b Anika Sharma\\b0\\par\r\n'bb\\par\r\nDear Anika,\\par"),
+            std::string::npos)
+      << read(hers);
+  EXPECT_TRUE(contact.message().endsWith(
+      "\nThe check of the template: The Orvanta Pad did not recognize: \u00abAddress\u00bb as a "
+      "valid placeholder field name."))
+      << contact.message().toStdString();
+  screenshotOf(contact, "merge-document-merged-contact");
+  // Check looks at the template as her merge reads it: the company's name
+  // is hers, the address is still no field of hers.
+  EXPECT_FALSE(contact.check());
+  EXPECT_EQ(contact.message(),
+            "The Orvanta Pad did not recognize: \u00abAddress\u00bb as a valid placeholder field "
+            "name.");
 }
 
 TEST_F(MergeDocument, FieldsGoInAsRtfSourceAndTheCheckSaysWhatIsWrong) {
@@ -174,7 +217,7 @@ TEST_F(MergeDocument, FieldsGoInAsRtfSourceAndTheCheckSaysWhatIsWrong) {
   EXPECT_FALSE(document.check());
   EXPECT_EQ(document.message(),
             "The Orvanta Pad did not recognize: «Compnay Name» as a valid placeholder field name.");
-  shoot(document, "merge-document-check.png", folder_);
+  screenshotOf(document, "merge-document-check");
   // Saved, the template takes the system's line breaks.
   ASSERT_TRUE(document.saveTemplate());
   EXPECT_NE(read(folder_.file("Letter.omd")).find("\\'abCompnay Name\\'bb"), std::string::npos);
@@ -187,7 +230,7 @@ TEST_F(MergeDocument, PlainTextTemplatesAndFilesThatAreNotThere) {
       open("Note.omd", "To <<Company Name>>\r\nRe: «(Year End Date, dd/mm/yy)»\r\n");
   EXPECT_FALSE(document.isRichText());
   const std::string merged = document.merge();
-  EXPECT_EQ(merged, folder_.file("Note - Maple Leaf Bakery Ltd..txt"));
+  EXPECT_EQ(merged, folder_.file("Note - Maple Leaf Bakery Ltd.txt"));
   EXPECT_EQ(read(merged), "To Maple Leaf Bakery Ltd.\r\nRe: 31/Dec/25\r\n");
   document.close();
   settle();

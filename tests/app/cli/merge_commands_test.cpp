@@ -104,6 +104,22 @@ TEST_F(MergeCommands, AValueWrittenBackReadsBackThroughTheMerge) {
   EXPECT_EQ(unknown.status, 1);
   EXPECT_NE(unknown.err.find("no field named 'Nope'"), std::string::npos) << unknown.err;
   EXPECT_EQ(run({"write-field", "--db", db_, "--field", "City"}).status, 2);  // no --value
+  // A display name, as a template writes it, names its field too.
+  ASSERT_EQ(run({"write-field", "--db", db_, "--company", "2", "--field", "Company Alternate City",
+                 "--value", "Hull"})
+                .status,
+            0);
+  EXPECT_EQ(scalar("SELECT AltCity FROM Companies WHERE CompanyID = 2;"), "Hull");
+  // The firm's "Your City" is the field City, which write-back takes for
+  // the company's: refused, and nothing written.
+  const ToolRun firmCity = run({"write-field", "--db", db_, "--company", "2", "--firm", "1",
+                                "--field", "Your City", "--value", "Nowhere"});
+  EXPECT_EQ(firmCity.status, 1);
+  EXPECT_NE(firmCity.err.find("'Your City' is the field City"), std::string::npos) << firmCity.err;
+  EXPECT_EQ(scalar("SELECT City FROM Companies WHERE CompanyID = 2;"), "Gatineau");
+  // Write-back sets its own use.
+  EXPECT_EQ(
+      run({"write-field", "--db", db_, "--use", "1", "--field", "City", "--value", "x"}).status, 2);
 }
 
 }  // namespace

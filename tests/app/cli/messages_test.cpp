@@ -104,5 +104,30 @@ TEST_F(CliTest, AResultThatCantBeWrittenIsAFailure) {
   EXPECT_EQ(bytesOf(out), "Sophie Gagnon\n");
 }
 
+// A group's word alone is a usage error that lists its commands; with --help
+// the list is the answer. The tool's own list keeps one name a line, a long
+// name's summary on the line below (the manual page is made from that list).
+TEST_F(CliTest, AGroupOfCommandsListsThemWhenAskedOrMisused) {
+  const ToolRun alone = run({"lookup"});
+  EXPECT_EQ(alone.status, 2);
+  EXPECT_EQ(alone.firstError(), "quillbox: 'lookup' needs one of its commands:");
+  EXPECT_NE(alone.err.find("\n  lookup fill-all\n"), std::string::npos) << alone.err;
+
+  const ToolRun help = run({"links", "--help"});
+  EXPECT_EQ(help.status, 0);
+  EXPECT_EQ(help.err, "");
+  EXPECT_EQ(help.out.substr(0, help.out.find('\n')), "The commands of 'links':");
+  EXPECT_NE(help.out.find("\n  links relink  point the links under an old folder"),
+            std::string::npos)
+      << help.out;
+
+  const ToolRun tool = run({"--help"});
+  EXPECT_NE(tool.out.find("\n  lookup fill-project-type-repeater\n" + std::string(20, ' ') +
+                          "write one value"),
+            std::string::npos)
+      << tool.out;
+  EXPECT_NE(tool.out.find("\n  lookup fill-all   fill a lookup column"), std::string::npos);
+}
+
 }  // namespace
 }  // namespace qb::test

@@ -143,13 +143,15 @@ TEST_F(CategoryObjects, LoadCategoryCountsProgressAndWalksDocumentsWithIcons) {
   category.moveFirstDocument(more);
   for (category.isEndOfDocuments(end); !end; category.isEndOfDocuments(end)) {
     auto document = category.currentDocument();
+    const Picture& icon = document->largeIconPicture();
     walk.push_back(document->documentName() + " " + document->smallIconPicture().iconName + " " +
-                   std::to_string(document->largeIconPicture().size));
+                   std::to_string(icon.size) +
+                   (icon.emblemName.empty() ? "" : " " + icon.emblemName));
     category.moveNextDocument(more);
   }
-  EXPECT_EQ(walk, (std::vector<std::string>{"report.pdf application-pdf 32",
-                                            "books.XLSX x-office-spreadsheet 32",
-                                            "notes.docx dialog-warning 32", "scans.d folder 32"}));
+  EXPECT_EQ(walk, (std::vector<std::string>{
+                      "report.pdf application-pdf 32", "books.XLSX x-office-spreadsheet 32",
+                      "notes.docx x-office-document 32 emblem-unreadable", "scans.d folder 32"}));
   EXPECT_FALSE(more);
   EXPECT_EQ(category.currentDocument(), nullptr);
 
@@ -209,7 +211,8 @@ TEST_F(CategoryObjects, DocumentAddLoadSaveAndMergeType) {
   EXPECT_EQ(db.scalar("SELECT DocIconName FROM Documents WHERE " + key), "Signed letter");
   EXPECT_EQ(db.scalar("SELECT DocFileName FROM Documents WHERE " + key), "Signed.odt");
   loaded.loadDocument(loadAll, result);
-  EXPECT_EQ(loaded.largeIconPicture(), Picture::themeIcon("dialog-warning", 32));
+  EXPECT_EQ(loaded.largeIconPicture(),
+            Picture::themeIcon("x-office-document", 32).withEmblem("emblem-unreadable"));
   EXPECT_EQ(loaded.fileAccessState(), FileAccessState::missingFolder);
 
   // No category: a failure is reported and no link made.
