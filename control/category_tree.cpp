@@ -1,6 +1,6 @@
 // The category tree: its fill through the library's category object, and the
-// tree's handlers. The list follows the tree only at a left button release, a
-// collapse of a node other than the category on show, and the commands; a
+// tree's handlers (its drag handlers are in drag_and_drop.cpp). The list follows the tree only at a
+// left button release, a collapse of a node other than the category on show, and the commands; a
 // node click or an arrow key leaves the list on the category shown before.
 
 #include "control/nv_document_quillbox.h"
@@ -76,9 +76,27 @@ void nvDocumentQuillbox::tvClientDocumentation_NodeClick(Node&) {
   Procedure proc("Orvanta.exe-nvDocumentQuillbox-tvClientDocumentation_NodeClick");
 }
 
+void nvDocumentQuillbox::tvClientDocumentation_DblClick() {
+  Procedure proc("Orvanta.exe-nvDocumentQuillbox-tvClientDocumentation_DblClick");
+  proc.step([&] { editSelectedDocCategoryNode(); });
+}
+
+void nvDocumentQuillbox::tvClientDocumentation_KeyUp(int16_t key, int16_t) {
+  Procedure proc("Orvanta.exe-nvDocumentQuillbox-tvClientDocumentation_KeyUp");
+  constexpr int16_t kDelete = 46;
+  constexpr int16_t kEnter = 13;
+  proc.step([&] {
+    if (key == kDelete) {
+      deleteSelectedDocCategory();
+    } else if (key == kEnter) {
+      editSelectedDocCategoryNode();
+    }
+  });
+}
+
 void nvDocumentQuillbox::tvClientDocumentation_LostFocus() {
   Procedure proc("Orvanta.exe-nvDocumentQuillbox-tvClientDocumentation_LostFocus");
-  proc.step([&] { draggingCategory_ = false; });
+  proc.step([&] { drag_.treeLostFocus(); });
 }
 
 }  // namespace qb

@@ -2,6 +2,7 @@
 // first-assignment rule, the client selection rules, start and stop.
 
 #include "control/nv_document_quillbox.h"
+#include "services/controls/data_object.h"
 #include "services/errors/error_object.h"
 #include "services/errors/procedure.h"
 #include "services/host/module_state.h"
@@ -110,6 +111,11 @@ void nvDocumentQuillbox::buildControls() {
   picFrame14_.setBorderStyle(1);
   lvDocuments_.Move(45, 45, 8210, 4840);
   lvDocuments_.setMultiSelect(true);
+  // Rows start drags by themselves; files and rows are dropped on the list
+  // and on both frames, which pass their drops to the list.
+  lvDocuments_.setOLEDragMode(vbOLEDragAutomatic);
+  lvDocuments_.setOLEDropMode(vbOLEDropManual);
+  for (Frame& side : fraDocumentInfo_) side.setOLEDropMode(vbOLEDropManual);
   lvDocuments_.setIcons(&iglListViewIcons_);
   lvDocuments_.setSmallIcons(&iglListViewSmallIcons_);
   lblNote_[0].Move(135, 5380, 500, 255);
@@ -140,6 +146,44 @@ void nvDocumentQuillbox::wireEvents() {
   tvClientDocumentation_.MouseUp = [this](int16_t button, int16_t shift, float x, float y) {
     tvClientDocumentation_MouseUp(button, shift, x, y);
   };
+  tvClientDocumentation_.MouseDown = [this](int16_t button, int16_t shift, float x, float y) {
+    tvClientDocumentation_MouseDown(button, shift, x, y);
+  };
+  tvClientDocumentation_.DblClick = [this] { tvClientDocumentation_DblClick(); };
+  tvClientDocumentation_.KeyUp = [this](int16_t key, int16_t shift) {
+    tvClientDocumentation_KeyUp(key, shift);
+  };
+  tvClientDocumentation_.OLEStartDrag = [this](DataObject& data, int32_t& allowedEffects) {
+    tvClientDocumentation_OLEStartDrag(data, allowedEffects);
+  };
+  tvClientDocumentation_.OLEDragOver = [this](DataObject& data, int32_t& effect, int16_t button,
+                                              int16_t shift, float x, float y, int16_t state) {
+    tvClientDocumentation_OLEDragOver(data, effect, button, shift, x, y, state);
+  };
+  tvClientDocumentation_.OLEDragDrop = [this](DataObject& data, int32_t& effect, int16_t button,
+                                              int16_t shift, float x, float y) {
+    tvClientDocumentation_OLEDragDrop(data, effect, button, shift, x, y);
+  };
+  lvDocuments_.MouseDown = [this](int16_t button, int16_t shift, float x, float y) {
+    lvDocuments_MouseDown(button, shift, x, y);
+  };
+  lvDocuments_.OLEStartDrag = [this](DataObject& data, int32_t& allowedEffects) {
+    lvDocuments_OLEStartDrag(data, allowedEffects);
+  };
+  lvDocuments_.OLEDragOver = [this](DataObject& data, int32_t& effect, int16_t button,
+                                    int16_t shift, float x, float y, int16_t state) {
+    lvDocuments_OLEDragOver(data, effect, button, shift, x, y, state);
+  };
+  lvDocuments_.OLEDragDrop = [this](DataObject& data, int32_t& effect, int16_t button,
+                                    int16_t shift, float x, float y) {
+    lvDocuments_OLEDragDrop(data, effect, button, shift, x, y);
+  };
+  for (int16_t i = 0; i < 2; ++i) {
+    fraDocumentInfo_[i].OLEDragDrop = [this, i](DataObject& data, int32_t& effect, int16_t button,
+                                                int16_t shift, float x, float y) {
+      fraDocumentInfo_OLEDragDrop(i, data, effect, button, shift, x, y);
+    };
+  }
   tvClientDocumentation_.Collapse = [this](Node& node) { tvClientDocumentation_Collapse(node); };
   tvClientDocumentation_.NodeClick = [this](Node& node) { tvClientDocumentation_NodeClick(node); };
   tvClientDocumentation_.LostFocus = [this] { tvClientDocumentation_LostFocus(); };
@@ -214,8 +258,8 @@ void nvDocumentQuillbox::StartDocQuillboxControl() {
     category_ = std::make_shared<docQuillboxCategoryClass>();
     wireCategoryObject();
   });
-  proc.step([&] { draggingCategory_ = false; });
-  proc.step([&] { draggingDocuments_ = false; });
+  proc.step([&] { drag_.draggingCategory = false; });
+  proc.step([&] { drag_.draggingDocuments = false; });
   proc.step([&] { getDocQuillboxListViewSettings(); });
   proc.step([&] { clientDocumentationSplitter_.setLeftOrTopControl(&fraDocumentInfo_[0]); });
   proc.step([&] { clientDocumentationSplitter_.setRightOrBottomControl(&fraDocumentInfo_[1]); });

@@ -122,6 +122,19 @@ void nvDocumentQuillbox::buildMenus() {
   menus_.find("mnuOpenFile")->Click = [this] {
     menuCommand("mnuOpenFile", [this] { openSelectedDocumentsFiles(); });
   };
+  // The tree's two menus.
+  const Command treeCommands[] = {
+      {"mnuAddCategory", [this] { addNewDocumentCategory(); }},
+      {"mnuAddCategory2", [this] { addNewDocumentCategory(); }},
+      {"mnuEditCategory", [this] { editSelectedDocCategoryNode(); }},
+      {"mnuDeleteCategory", [this] { deleteSelectedDocCategory(); }},
+      {"mnuAddFilesToCategory", [this] { addDocumentFiles(); }},
+      {"mnuDocCategoriesProperties", [this] { editSelectedDocCategoryNode(); }},
+  };
+  for (const Command& command : treeCommands) {
+    const std::string name = command.item;
+    menus_.find(name)->Click = [this, name, run = command.run] { menuCommand(name, run); };
+  }
 }
 
 void nvDocumentQuillbox::menuCommand(const std::string& itemName,

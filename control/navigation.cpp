@@ -52,6 +52,9 @@ void nvDocumentQuillbox::cmdDocManager_Click(int16_t index) {
       case 3:
         findDocumentFiles();
         break;
+      case 4:
+        addNewDocumentCategory();
+        break;
       default:
         break;
     }

@@ -25,6 +25,7 @@
 #include <memory>
 #include <string>
 
+#include "control/drag_state.h"
 #include "services/controls/command_button.h"
 #include "services/controls/container_control.h"
 #include "services/controls/event.h"
@@ -50,6 +51,7 @@ class WorkingFolderReference;
 class LocaleReference;
 class DocQuillboxClientCategoriesClass;
 class docQuillboxCategoryClass;
+class DataObject;
 class Procedure;
 
 // Which host screen the component serves; selects the divider column of the
@@ -151,8 +153,10 @@ class nvDocumentQuillbox : public ContainerControl {
   // Fields the component keeps for itself, readable for hosts and tests.
   int16_t splitterPosition() const { return splitterPosition_; }
   const std::string& savedColumnsXML() const { return savedColumnsXML_; }
-  bool draggingCategory() const { return draggingCategory_; }
-  bool draggingDocuments() const { return draggingDocuments_; }
+  bool draggingCategory() const { return drag_.draggingCategory; }
+  bool draggingDocuments() const { return drag_.draggingDocuments; }
+  // The six fields of drag and drop.
+  const DragState& dragState() const { return drag_; }
   // The category objects StartDocQuillboxControl made; null before it ran and
   // after UserControl_Terminate.
   const std::shared_ptr<DocQuillboxClientCategoriesClass>& clientCategoriesObject() const {
@@ -215,10 +219,26 @@ class nvDocumentQuillbox : public ContainerControl {
   bool goToDocument(int32_t& documentID);
 
   // ---- Category commands ---------------------------------------------------
+  // Each works on the tree's selected node and keeps the tree in step by
+  // hand: the nodes change first, the store after. The client's main
+  // category and the category of its merge documents refuse to be edited or
+  // deleted, with a message that names them as the store does.
 
   // The id of the selected node's category; -1 when no node is selected or
   // its key names no category.
   int32_t getCurrentlySelectedCategoryID();
+  // The category editor for a new category under the selected node; on OK
+  // the new node is added under it, expanded and selected. Cancelled or
+  // not, the list is rebuilt and the tree takes the focus.
+  void addNewDocumentCategory();
+  // The category editor for the selected node's category; on OK the node
+  // shows the new name and the list is rebuilt.
+  void editSelectedDocCategoryNode();
+  // After the user's yes, removes the selected node (its sub-categories go
+  // with it), selects the node above, else below, else its parent, rebuilds
+  // the list, then deletes the category, its sub-categories and their links
+  // from the store. The files stay.
+  void deleteSelectedDocCategory();
 
   // ---- View settings -------------------------------------------------------
 
@@ -246,9 +266,27 @@ class nvDocumentQuillbox : public ContainerControl {
   // ---- Handlers the controls' events reach ---------------------------------
 
   void tvClientDocumentation_MouseUp(int16_t button, int16_t shift, float x, float y);
+  void tvClientDocumentation_MouseDown(int16_t button, int16_t shift, float x, float y);
   void tvClientDocumentation_Collapse(Node& node);
   void tvClientDocumentation_NodeClick(Node& node);
+  void tvClientDocumentation_DblClick();
+  void tvClientDocumentation_KeyUp(int16_t key, int16_t shift);
   void tvClientDocumentation_LostFocus();
+  void tvClientDocumentation_OLEStartDrag(DataObject& data, int32_t& allowedEffects);
+  void tvClientDocumentation_OLEDragOver(DataObject& data, int32_t& effect, int16_t button,
+                                         int16_t shift, float x, float y, int16_t state);
+  // The tree's drop handler (traced as DocumentListView_OLEDragDrop).
+  void tvClientDocumentation_OLEDragDrop(DataObject& data, int32_t& effect, int16_t button,
+                                         int16_t shift, float x, float y);
+  void lvDocuments_MouseDown(int16_t button, int16_t shift, float x, float y);
+  void lvDocuments_OLEStartDrag(DataObject& data, int32_t& allowedEffects);
+  void lvDocuments_OLEDragOver(DataObject& data, int32_t& effect, int16_t button, int16_t shift,
+                               float x, float y, int16_t state);
+  void lvDocuments_OLEDragDrop(DataObject& data, int32_t& effect, int16_t button, int16_t shift,
+                               float x, float y);
+  // A drop on either frame is a drop on the list.
+  void fraDocumentInfo_OLEDragDrop(int16_t index, DataObject& data, int32_t& effect, int16_t button,
+                                   int16_t shift, float x, float y);
   void lvDocuments_ColumnClick(ColumnHeader& column);
   void lvDocuments_KeyUp(int16_t key, int16_t shift);
   void lvDocuments_DblClick();
@@ -334,6 +372,25 @@ class nvDocumentQuillbox : public ContainerControl {
   // message, 11), and the caller goes on with its next item.
   void linkDocumentFile(const std::string& path);
 
+  // Category commands: a fresh category object loaded (without its
+  // documents) for the selected node's category; null when the node's key
+  // names no category. With no selected node the read of its key fails.
+  std::shared_ptr<docQuillboxCategoryClass> loadSelectedCategory(Procedure& proc);
+  // The protection test of edit and delete: True (after the message) for
+  // the main category and the merge documents categories. verb: "You cannot
+  // edit the " or "You cannot delete the ".
+  bool refusesProtectedCategory(Procedure& proc, docQuillboxCategoryClass& category,
+                                const std::string& verb);
+
+  // Drag and drop: the moves a drop on a tree node makes, each through a
+  // writable recordset. Nothing happens while the store is not connected.
+  void moveDocumentToDocCategory(int32_t documentID, int32_t categoryID);
+  void moveDocCategoryToDocCategory(int32_t categoryID, int32_t parentID);
+  // The files of a file drop linked one by one into the selected category,
+  // the pointer busy meanwhile, then the list rebuilt (steps 2 to 4 of the
+  // drop on the list).
+  void linkDroppedFiles(Procedure& proc, DataObject& data);
+
   // View settings.
   void getDocQuillboxListViewSettings();
   // The opening shared by the read and the write of the user's row, run as
@@ -358,12 +415,9 @@ class nvDocumentQuillbox : public ContainerControl {
   enumDocQuillboxClientType clientType_ = static_cast<enumDocQuillboxClientType>(0);
   int32_t companyIDNum_ = 0;
   int32_t contactIDNum_ = 0;
-  bool draggingCategory_ = false;
-  bool draggingDocuments_ = false;
-  int32_t dragCategoryID_ = 0;
-  bool categoryDragStarted_ = false;
-  int32_t dragNodeIndex_ = 0;
-  std::string draggedDocumentIDs_;
+  // draggingCategory, draggingDocuments, dragCategoryID,
+  // categoryDragStarted, dragNodeIndex, draggedDocumentIDs.
+  DragState drag_;
   int16_t UserLevel_ = 0;
   std::string savedColumnsXML_;
   bool ShowDocQuillboxClientNavButtons_ = false;

@@ -18,7 +18,8 @@ CategoryTreeWidget::CategoryTreeWidget(TreeView& control, QWidget* parent)
   setSelectionMode(QAbstractItemView::SingleSelection);
   setExpandsOnDoubleClick(true);
   setFrameShape(QFrame::StyledPanel);
-  forwardTo(&binding().input(), false);
+  forwardTo(&binding().input(), false, &binding().oleDrag());
+  binding().oleDrag().onDragChanged = [this] { showDropTarget(); };
   connect(this, &QTreeWidget::currentItemChanged, this,
           [this](QTreeWidgetItem* current) { userChangedCurrent(current); });
   connect(this, &QTreeWidget::itemExpanded, this,
@@ -34,6 +35,7 @@ CategoryTreeWidget::CategoryTreeWidget(TreeView& control, QWidget* parent)
 
 CategoryTreeWidget::~CategoryTreeWidget() {
   control().setHitTestProvider({});
+  binding().oleDrag().onDragChanged = nullptr;
   // The tree's own teardown must not reach the handlers of a half-gone widget.
   disconnect(this, nullptr, this, nullptr);
 }
@@ -62,6 +64,7 @@ void CategoryTreeWidget::applyChange(ControlChange change) {
 }
 
 void CategoryTreeWidget::rebuild() {
+  dropTarget_ = nullptr;
   quietly(syncing_, [this] {
     clear();
     items_.clear();
@@ -138,6 +141,20 @@ void CategoryTreeWidget::userExpanded(QTreeWidgetItem* item, bool expanded) {
   } else {
     control().userCollapse(*node);
   }
+}
+
+void CategoryTreeWidget::showDropTarget() {
+  const OleDragDrop& drag = binding().oleDrag();
+  QTreeWidgetItem* target = nullptr;
+  if (drag.dragPoint() && drag.dragEffect() != DROPEFFECT_NONE)
+    target = itemAt(viewport()->mapFrom(this, *drag.dragPoint()));
+  if (target == dropTarget_) return;
+  if (dropTarget_ != nullptr) dropTarget_->setData(0, Qt::BackgroundRole, QVariant());
+  dropTarget_ = target;
+  if (target == nullptr) return;
+  QColor shade = palette().color(QPalette::Highlight);
+  shade.setAlpha(96);
+  target->setBackground(0, shade);
 }
 
 }  // namespace qb::gui

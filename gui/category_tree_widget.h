@@ -6,7 +6,8 @@
 // which node is under a point.
 //
 // As on the platform, a right press does not select: the control decides
-// what a right click selects.
+// what a right click selects. Drags go to the model's OLE drag events; while
+// a drag that can be dropped passes over a node, the node is highlighted.
 
 #include <QHash>
 #include <QTreeWidget>
@@ -39,9 +40,12 @@ class CategoryTreeWidget : public BoundWidget<ForwardingView<QTreeWidget>, TreeV
   void applySelection();
   void userChangedCurrent(QTreeWidgetItem* current);
   void userExpanded(QTreeWidgetItem* item, bool expanded);
+  // Highlights the node a drag over the tree would drop on.
+  void showDropTarget();
 
   QHash<const Node*, QTreeWidgetItem*> items_;
   QHash<const QTreeWidgetItem*, Node*> nodes_;
+  QTreeWidgetItem* dropTarget_ = nullptr;
   bool syncing_ = false;
 };
 

@@ -1,5 +1,6 @@
 #include "gui/container_widget.h"
 
+#include <QDropEvent>
 #include <QPainter>
 #include <QStyle>
 #include <QStyleOptionFrame>
@@ -14,7 +15,22 @@ namespace qb::gui {
 ContainerWidget::ContainerWidget(ContainerControl& control, QWidget* parent)
     : BoundWidget(control, parent) {
   binding().forwardInputFrom(*this, true);
+  setAcceptDrops(control.OLEDropMode() == vbOLEDropManual);
   binding().applyAll();
+}
+
+void ContainerWidget::dragEnterEvent(QDragEnterEvent* event) {
+  if (!binding().oleDrag().dragEnter(*this, *event)) event->ignore();
+}
+
+void ContainerWidget::dragMoveEvent(QDragMoveEvent* event) {
+  if (!binding().oleDrag().dragMove(*this, *event)) event->ignore();
+}
+
+void ContainerWidget::dragLeaveEvent(QDragLeaveEvent*) { binding().oleDrag().dragLeave(); }
+
+void ContainerWidget::dropEvent(QDropEvent* event) {
+  if (!binding().oleDrag().drop(*this, *event)) event->ignore();
 }
 
 void ContainerWidget::paintEvent(QPaintEvent*) {

@@ -53,7 +53,11 @@ Qt::CursorShape cursorShape(int16_t pointer) {
 }  // namespace
 
 ControlBinding::ControlBinding(Control& control, QWidget& widget, ChangeHandler onChange)
-    : control_(control), widget_(widget), input_(control, widget), onChange_(std::move(onChange)) {
+    : control_(control),
+      widget_(widget),
+      input_(control, widget),
+      oleDrag_(control, widget, input_),
+      onChange_(std::move(onChange)) {
   widget_.setObjectName(QString::fromStdString(
       control.Index() >= 0 ? control.Name() + "(" + std::to_string(control.Index()) + ")"
                            : control.Name()));

@@ -13,6 +13,7 @@
 #include <functional>
 
 #include "gui/input_forwarder.h"
+#include "gui/ole_drag_drop.h"
 #include "services/controls/control.h"
 
 class QWidget;
@@ -33,6 +34,8 @@ class ControlBinding : public QObject {
   Control& control() const { return control_; }
   QWidget& widget() const { return widget_; }
   InputForwarder& input() { return input_; }
+  // Drags over and from the widget, as the model's OLE drag events.
+  OleDragDrop& oleDrag() { return oleDrag_; }
 
   // Applies every property of the model, as after a change of each kind.
   void applyAll();
@@ -58,6 +61,7 @@ class ControlBinding : public QObject {
   Control& control_;
   QWidget& widget_;
   InputForwarder input_;
+  OleDragDrop oleDrag_;
   ChangeHandler onChange_;
   int32_t observerId_ = 0;
   int32_t zOrderSeen_ = 0;

@@ -1,7 +1,9 @@
 #include "gui/document_list_widget.h"
 
+#include <QFrame>
 #include <QHeaderView>
 #include <QItemSelectionModel>
+#include <QResizeEvent>
 #include <QStackedLayout>
 #include <QStyledItemDelegate>
 
@@ -51,7 +53,8 @@ DocumentListWidget::DocumentListWidget(ListView& control, QWidget* parent)
       model_(control),
       listView_(this),
       detailsView_(this),
-      pages_(new QStackedLayout(this)) {
+      pages_(new QStackedLayout(this)),
+      dropFrame_(new QFrame(this)) {
   pages_->setContentsMargins(0, 0, 0, 0);
   pages_->addWidget(&listView_);
   pages_->addWidget(&detailsView_);
@@ -69,8 +72,14 @@ DocumentListWidget::DocumentListWidget(ListView& control, QWidget* parent)
     view->setEditTriggers(QAbstractItemView::NoEditTriggers);
     view->setFrameShape(QFrame::StyledPanel);
   }
-  listView_.forwardTo(&binding().input(), true);
-  detailsView_.forwardTo(&binding().input(), true);
+  listView_.forwardTo(&binding().input(), true, &binding().oleDrag());
+  detailsView_.forwardTo(&binding().input(), true, &binding().oleDrag());
+  // The drop frame lies over the views and lets every event through.
+  dropFrame_->setAttribute(Qt::WA_TransparentForMouseEvents);
+  dropFrame_->setFrameShape(QFrame::Box);
+  dropFrame_->setLineWidth(2);
+  dropFrame_->hide();
+  binding().oleDrag().onDragChanged = [this] { showDropTarget(); };
   listView_.setItemDelegate(new GridCellDelegate(&listView_));
   listView_.setUniformItemSizes(true);
   listView_.setTextElideMode(Qt::ElideRight);
@@ -116,6 +125,7 @@ DocumentListWidget::DocumentListWidget(ListView& control, QWidget* parent)
 
 DocumentListWidget::~DocumentListWidget() {
   control().setHitTestProvider({});
+  binding().oleDrag().onDragChanged = nullptr;
   // The views' own teardown must not reach the handlers of a half-gone widget.
   for (QObject* sender :
        {static_cast<QObject*>(listView_.selectionModel()),
@@ -280,6 +290,19 @@ void DocumentListWidget::userMovedColumn(int section, int newVisual) {
     control().ColumnHeaders().item(section + 1).setPosition(static_cast<int16_t>(newVisual + 1));
   });
   applyColumns();
+}
+
+void DocumentListWidget::showDropTarget() {
+  const OleDragDrop& drag = binding().oleDrag();
+  const bool shown = drag.dragPoint() && drag.dragEffect() != DROPEFFECT_NONE;
+  if (shown) {
+    QPalette colours = dropFrame_->palette();
+    colours.setColor(QPalette::WindowText, palette().color(QPalette::Highlight));
+    dropFrame_->setPalette(colours);
+    dropFrame_->setGeometry(rect());
+    dropFrame_->raise();
+  }
+  dropFrame_->setVisible(shown);
 }
 
 void DocumentListWidget::userClickedColumn(int section) {

@@ -9,7 +9,9 @@
 // raises ItemClick and Click), keys and column clicks reach the model as its
 // events; resizing or moving a header section
 // writes the column's Width or Position back. HitTest on the model asks the
-// view on show which row is under a point.
+// view on show which row is under a point. Drags over the list and drags of
+// its rows go to the model's OLE drag events; while a drag that can be
+// dropped is over the list, a frame in the highlight colour shows it.
 
 #include <QListView>
 #include <QTreeView>
@@ -20,6 +22,7 @@
 #include "gui/list_view_item_model.h"
 #include "services/controls/list_view.h"
 
+class QFrame;
 class QStackedLayout;
 
 namespace qb::gui {
@@ -47,11 +50,13 @@ class DocumentListWidget : public BoundWidget<QWidget, ListView> {
   void userResizedColumn(int section, int newSize);
   void userMovedColumn(int section, int newVisual);
   void userClickedColumn(int section);
+  void showDropTarget();
 
   ListViewItemModel model_;
   ForwardingView<QListView> listView_;
   ForwardingView<QTreeView> detailsView_;
   QStackedLayout* pages_;
+  QFrame* dropFrame_;
   bool syncing_ = false;
 };
 

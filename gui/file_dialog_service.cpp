@@ -6,15 +6,40 @@
 #include <QFileInfo>
 #include <QTimer>
 
+#include "gui/file_dialogs.h"
 #include "services/shell/common_dialog.h"
+#include "services/shell/folder_browser.h"
 
 namespace qb::gui {
 
 FileDialogService::FileDialogService(QWidget* window) : window_(window) {
   installFileDialogService([this](CommonDialog& dialog) { return show(dialog); });
+  installFolderBrowserService(
+      [this](int64_t, const std::string& title, int32_t, const std::string& root) {
+        return browseForFolder(title, root);
+      });
 }
 
-FileDialogService::~FileDialogService() { installFileDialogService({}); }
+FileDialogService::~FileDialogService() {
+  installFileDialogService({});
+  installFolderBrowserService({});
+}
+
+std::optional<ShellFolder> FileDialogService::browseForFolder(const std::string& title,
+                                                              const std::string& root) {
+  QWidget* parent = QApplication::activeModalWidget();
+  if (parent == nullptr) parent = window_.data();
+  QFileDialog dialog(parent, QString::fromStdString(title));
+  dialog.setAcceptMode(QFileDialog::AcceptOpen);
+  dialog.setFileMode(QFileDialog::Directory);
+  dialog.setOption(QFileDialog::ShowDirsOnly, true);
+  if (shown_) QTimer::singleShot(0, &dialog, [this, &dialog] { shown_(dialog); });
+  // Rooted at the desktop ("") the dialog starts where the user chose last.
+  const QStringList chosen = runFileDialog(dialog, "synchronised folder",
+                                           root.empty() ? QDir::homePath() : nearestFolder(root));
+  if (chosen.isEmpty()) return std::nullopt;
+  return ShellFolder{QDir::cleanPath(chosen.front()).toStdString()};
+}
 
 QStringList FileDialogService::qtFilters(const std::string& filter) {
   const QStringList parts = QString::fromStdString(filter).split('|');

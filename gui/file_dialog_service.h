@@ -6,18 +6,24 @@
 // nearest folder above it that exists; with the multiple-selection flag
 // several files can be picked, and they come back as the folder and the
 // names separated by characters of code 0, one file as its path.
+//
+// It also serves the shell's BrowseForFolder: the desktop's folder dialog
+// (folders only), starting in the folder chosen in last for that purpose.
 
 #include <QPointer>
 #include <QString>
 #include <QStringList>
 #include <functional>
+#include <optional>
+#include <string>
 
 class QFileDialog;
 class QWidget;
 
 namespace qb {
 class CommonDialog;
-}
+struct ShellFolder;
+}  // namespace qb
 
 namespace qb::gui {
 
@@ -28,7 +34,8 @@ class FileDialogService {
   FileDialogService(const FileDialogService&) = delete;
   FileDialogService& operator=(const FileDialogService&) = delete;
 
-  // Called once the dialog is on screen: tests pick files and accept here.
+  // Called once the dialog is on screen (a file or a folder dialog): tests
+  // pick files and accept here.
   using ShownHook = std::function<void(QFileDialog& dialog)>;
   void setShownHook(ShownHook hook) { shown_ = std::move(hook); }
 
@@ -41,6 +48,7 @@ class FileDialogService {
 
  private:
   bool show(CommonDialog& dialog);
+  std::optional<ShellFolder> browseForFolder(const std::string& title, const std::string& root);
 
   QPointer<QWidget> window_;
   ShownHook shown_;

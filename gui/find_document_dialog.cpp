@@ -15,17 +15,13 @@
 
 #include "dialogs/frm_find_document.h"
 #include "gui/document_list_widget.h"
-#include "gui/shade_line_widget.h"
 
 namespace qb::gui {
 
 FindDocumentDialog::FindDocumentDialog(frmFindDocument& form, QWidget* parent)
     : FormDialog(form, parent) {
   FormBinder& bind = binder();
-  auto* layout = new QVBoxLayout(this);
-  ShadeLineWidget* heading = bind.header(form.lblHeader(), this);
-  heading->setMinimumHeight(fontMetrics().height() * 2);
-  layout->addWidget(heading);
+  QVBoxLayout* layout = columnUnderHeader(form.lblHeader());
 
   QTabWidget* tabs = bind.tabs(form.FindTab(), this);
   layout->addWidget(tabs, 1);

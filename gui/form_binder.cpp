@@ -5,6 +5,7 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTabWidget>
@@ -102,6 +103,26 @@ QLineEdit* FormBinder::textBox(TextBox& model, QWidget* parent) {
   });
   QObject::connect(widget, &QLineEdit::textEdited, widget, [this, &model](const QString& text) {
     if (!syncing_) model.setText(text.toStdString());
+  });
+  binding.forwardInputFrom(*widget, false);
+  binding.applyAll();
+  return widget;
+}
+
+QPlainTextEdit* FormBinder::textArea(TextBox& model, QWidget* parent) {
+  auto* widget = new QPlainTextEdit(parent);
+  widget->setTabChangesFocus(true);
+  auto shown = [](const std::string& text) { return qt(text).replace("\r\n", "\n"); };
+  ControlBinding& binding =
+      bind(model, *widget, [this, widget, &model, shown](ControlChange change) {
+        quietly(syncing_, [&] {
+          if (change == ControlChange::Text && widget->toPlainText() != shown(model.Text()))
+            widget->setPlainText(shown(model.Text()));
+          if (change == ControlChange::Appearance) widget->setReadOnly(model.Locked());
+        });
+      });
+  QObject::connect(widget, &QPlainTextEdit::textChanged, widget, [this, widget, &model] {
+    if (!syncing_) model.setText(widget->toPlainText().replace("\n", "\r\n").toStdString());
   });
   binding.forwardInputFrom(*widget, false);
   binding.applyAll();

@@ -18,6 +18,7 @@ class QComboBox;
 class QGroupBox;
 class QLabel;
 class QLineEdit;
+class QPlainTextEdit;
 class QPushButton;
 class QRadioButton;
 class QTabWidget;
@@ -52,6 +53,8 @@ class FormBinder {
   // Each makes the widget as a child of parent (to be put in a layout).
   QLabel* label(Label& model, QWidget* parent);
   QLineEdit* textBox(TextBox& model, QWidget* parent);
+  // A box of several lines (MultiLine); its lines break as CR LF in the model.
+  QPlainTextEdit* textArea(TextBox& model, QWidget* parent);
   // icon: a theme icon name shown beside the caption ("" for none).
   QPushButton* button(CommandButton& model, QWidget* parent, const char* icon = "");
   QCheckBox* checkBox(CheckBox& model, QWidget* parent);

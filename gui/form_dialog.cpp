@@ -1,7 +1,9 @@
 #include "gui/form_dialog.h"
 
 #include <QCloseEvent>
+#include <QVBoxLayout>
 
+#include "gui/shade_line_widget.h"
 #include "services/controls/form.h"
 
 namespace qb::gui {
@@ -16,6 +18,14 @@ FormDialog::FormDialog(Form& form, QWidget* parent) : QDialog(parent), form_(for
 }
 
 FormDialog::~FormDialog() { form_.removeObserver(observer_); }
+
+QVBoxLayout* FormDialog::columnUnderHeader(ShadeLine& header) {
+  auto* layout = new QVBoxLayout(this);
+  ShadeLineWidget* heading = binder_.header(header, this);
+  heading->setMinimumHeight(fontMetrics().height() * 2);
+  layout->addWidget(heading);
+  return layout;
+}
 
 void FormDialog::reject() {
   // The form decides; when it stays shown the dialog stays open.

@@ -8,6 +8,8 @@
 
 #include "gui/form_binder.h"
 
+class QVBoxLayout;
+
 namespace qb {
 class Form;
 }
@@ -27,6 +29,8 @@ class FormDialog : public QDialog {
  protected:
   void closeEvent(QCloseEvent* event) override;
   FormBinder& binder() { return binder_; }
+  // The dialog's column of widgets, opened by the form's shaded header.
+  QVBoxLayout* columnUnderHeader(ShadeLine& header);
 
  private:
   Form& form_;

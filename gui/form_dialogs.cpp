@@ -6,8 +6,10 @@
 #include <memory>
 
 #include "dialogs/frm_doc_properties.h"
+#include "dialogs/frm_edit_doc_category.h"
 #include "dialogs/frm_find_document.h"
 #include "gui/doc_properties_dialog.h"
+#include "gui/edit_doc_category_dialog.h"
 #include "gui/find_document_dialog.h"
 #include "gui/widget_owner_form.h"
 #include "services/controls/platform.h"
@@ -27,6 +29,8 @@ std::unique_ptr<FormDialog> dialogFor(Form& form, QWidget* parent) {
     return std::make_unique<DocPropertiesDialog>(*properties, parent);
   if (auto* find = dynamic_cast<frmFindDocument*>(&form))
     return std::make_unique<FindDocumentDialog>(*find, parent);
+  if (auto* category = dynamic_cast<frmEditDocCategory*>(&form))
+    return std::make_unique<EditDocCategoryDialog>(*category, parent);
   return nullptr;
 }
 

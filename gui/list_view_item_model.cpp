@@ -81,7 +81,9 @@ QVariant ListViewItemModel::headerData(int section, Qt::Orientation orientation,
 }
 
 Qt::ItemFlags ListViewItemModel::flags(const QModelIndex& index) const {
-  return index.isValid() ? Qt::ItemIsEnabled | Qt::ItemIsSelectable : Qt::NoItemFlags;
+  // Rows can be dragged (the list's OLE drag decides what the drag does).
+  return index.isValid() ? Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsDragEnabled
+                         : Qt::NoItemFlags;
 }
 
 void ListViewItemModel::reset() {

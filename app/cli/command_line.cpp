@@ -110,11 +110,16 @@ void parseOption(const std::vector<std::string>& words, size_t& i, CommandLine& 
 
 void parseCommandName(const std::vector<std::string>& words, size_t& i, CommandLine& line) {
   const std::string& word = words[i];
-  line.command = findCommand(word);
-  if (line.command == nullptr && i + 1 < words.size()) {
+  // A command of a group ("document move") before the command that has the
+  // group's name alone ("document").
+  if (i + 1 < words.size()) {
     line.command = findCommand(word + " " + words[i + 1]);
-    if (line.command != nullptr) ++i;
+    if (line.command != nullptr) {
+      ++i;
+      return;
+    }
   }
+  line.command = findCommand(word);
   if (line.command != nullptr) return;
   std::vector<std::string> group = groupCommands(word);
   if (group.empty()) throw UsageError("unknown command '" + word + "'");

@@ -1,10 +1,11 @@
-// The host's Documents menu: the component's document commands from the
-// menu bar, beside its own buttons, keys and pop-up menus.
+// The host's Documents menu: the component's document and category commands
+// from the menu bar, beside its own buttons, keys and pop-up menus.
 
 #include <QMenuBar>
 
 #include "app/desk/client_window.h"
 #include "control/nv_document_quillbox.h"
+#include "gui/theme_icons.h"
 
 namespace qb::desk {
 
@@ -31,6 +32,19 @@ void ClientWindow::buildDocumentMenu() {
                        QKeySequence("Ctrl+Shift+F"), this, [this] {
                          if (component_) component_->cmdDocManager(3).click();
                        });
+  // The category commands on the category selected in the tree; adding goes
+  // through the component's button, like finding.
+  documents->addSeparator();
+  documents->addAction(gui::themeIcon("folder-new"), "New &Category…", QKeySequence("Ctrl+Shift+N"),
+                       this, [this] {
+                         if (component_) component_->cmdDocManager(4).click();
+                       });
+  documents->addAction(gui::themeIcon("document-properties"), "&Edit Category…", this, [this] {
+    if (component_) component_->editSelectedDocCategoryNode();
+  });
+  documents->addAction(gui::themeIcon("edit-delete"), "De&lete Category", this, [this] {
+    if (component_) component_->deleteSelectedDocCategory();
+  });
 }
 
 }  // namespace qb::desk

@@ -68,6 +68,12 @@ ListItem* ListView::HitTest(float x, float y) const {
   return row < static_cast<int64_t>(rows_.size()) ? rows_[row].get() : nullptr;
 }
 
+float ListView::rowTop(const ListItem& item) const {
+  const float top = view_ == lvwReport && !hideColumnHeaders_ ? headerHeight_ : 0;
+  const int32_t row = item.Index() - 1 - scrollTop_;
+  return row < 0 ? -1 : top + static_cast<float>(row) * rowHeight_;
+}
+
 void ListView::setScrollTop(int32_t row) {
   scrollTop_ = std::max(0, row);
   notify(ControlChange::View);

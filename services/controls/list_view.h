@@ -83,6 +83,10 @@ class ListView : public Control {
   void setHeaderHeight(float twips) { headerHeight_ = twips; }
   int32_t ScrollTop() const { return scrollTop_; }
   void setScrollTop(int32_t row);
+  // The top of the row's place in the headless layout (twips), so that
+  // HitTest at a point below it finds the row; -1 when it is scrolled above
+  // ScrollTop.
+  float rowTop(const ListItem& item) const;
 
   // The first row from index start on (1-based) that matches text, or nullptr.
   // where: lvwText (the row's Text), lvwSubItem (any sub-item), lvwTag. match:

@@ -59,10 +59,11 @@ const std::string& TextBox::typeText(const std::string& typed) {
       selection_.place(Len(before), text_);
       continue;
     }
-    if (static_cast<unsigned char>(character[0]) < 32) continue;
-    if (maxLength_ > 0 && Len(before) + Len(after) >= maxLength_) continue;
+    if (multiLine_ && character == "\r") character = "\r\n";
+    if (static_cast<unsigned char>(character[0]) < 32 && character != "\r\n") continue;
+    if (maxLength_ > 0 && Len(before) + Len(after) + Len(character) > maxLength_) continue;
     setText(before + character + after);
-    selection_.place(Len(before) + 1, text_);
+    selection_.place(Len(before) + Len(character), text_);
   }
   return text_;
 }

@@ -30,14 +30,19 @@ class TextBox : public Control {
   // 0 means no limit; otherwise typeText keeps at most this many characters.
   int32_t MaxLength() const { return maxLength_; }
   void setMaxLength(int32_t value) { maxLength_ = value; }
+  // A box of several lines: Enter typed in it breaks the line (CR LF, two
+  // characters). A design-time setting: observers are not told.
+  bool MultiLine() const { return multiLine_; }
+  void setMultiLine(bool value) { multiLine_ = value; }
 
   // What a user's typing does: each character goes through KeyPress (the
   // form's first when it previews keys; a handler may change or swallow it;
   // only single-byte characters pass KeyPress, the others go in as they
   // are), then unless the box is Locked it replaces the selection at the
   // caret (the end of the text unless select() put it elsewhere). Backspace
-  // (8) removes the selection or the character before the caret; other
-  // control characters type nothing.
+  // (8) removes the selection or the character before the caret; Enter (13)
+  // breaks the line of a MultiLine box; other control characters type
+  // nothing.
   // Returns the text after typing.
   const std::string& typeText(const std::string& typed);
 
@@ -47,6 +52,7 @@ class TextBox : public Control {
   std::string text_;
   bool locked_ = false;
   int32_t maxLength_ = 0;
+  bool multiLine_ = false;
   TextSelection selection_;
 };
 

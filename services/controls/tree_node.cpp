@@ -27,7 +27,10 @@ void Node::setParent(Node* newParent) {
     throw RuntimeError(err::kInvalidCall, "Invalid parent");
   }
   for (Node* up = newParent; up; up = up->parent_) {
-    if (up == this) throw RuntimeError(err::kInvalidCall, "Invalid parent");
+    if (up == this)
+      throw RuntimeError(err::kInvalidCall,
+                         "Invalid parent: the node '" + text_ +
+                             "' can't go under itself or under a node of its own subtree.");
   }
   tree_->unlink(*this);
   parent_ = newParent;

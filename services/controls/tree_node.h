@@ -40,7 +40,8 @@ class Node {
   // Moves this node with its subtree to the end of newParent's children (to
   // the end of the top level with nullptr). Index and Key do not change. A
   // move under the node itself or one of its descendants is refused with
-  // RuntimeError(err::kInvalidCall, "Invalid parent") and nothing moves.
+  // RuntimeError(err::kInvalidCall, "Invalid parent: ...", naming the node)
+  // and nothing moves; so is a parent of another tree ("Invalid parent").
   void setParent(Node* newParent);
 
   // Number of children.

@@ -45,6 +45,14 @@ Node* TreeView::HitTest(float x, float y) const {
   return row < static_cast<int64_t>(rows.size()) ? rows[row] : nullptr;
 }
 
+float TreeView::rowTop(const Node& node) const {
+  const auto rows = visibleNodes();
+  const auto at = std::find(rows.begin(), rows.end(), &node);
+  const auto row = at - rows.begin() - static_cast<std::ptrdiff_t>(scrollTop_);
+  if (at == rows.end() || row < 0) return -1;
+  return static_cast<float>(row) * rowHeight_;
+}
+
 void TreeView::setImageList(qb::ImageList* images) {
   imageList_ = images;
   notify(ControlChange::Images);

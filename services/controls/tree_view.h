@@ -50,6 +50,10 @@ class TreeView : public Control {
   void setScrollTop(int32_t row);
   // The nodes that have a row, in display order.
   std::vector<Node*> visibleNodes() const;
+  // The top of the node's row in the headless layout (twips), so that
+  // HitTest at a point below it finds the node; -1 when the node has no row
+  // on show (under a collapsed node, or scrolled above ScrollTop).
+  float rowTop(const Node& node) const;
   // Top-level nodes in display order.
   const std::vector<Node*>& roots() const { return roots_; }
 

@@ -5,6 +5,7 @@
 
 #include <cstdint>
 #include <string>
+#include <vector>
 
 namespace qb {
 
@@ -57,6 +58,32 @@ struct FileFacts {
     FileFacts facts;
     facts.reach = reach;
     return facts;
+  }
+};
+
+// One entry of a folder: its name, and what it is once a symbolic link is
+// followed (neither for a link that leads nowhere, a device or a pipe).
+struct FolderEntry {
+  std::string name;
+  bool isFile = false;
+  bool isFolder = false;
+};
+
+// What one read of a folder gave: how the folder answered and, when it is
+// present, its entries ("." and ".." left out) in the order the file system
+// gave them.
+struct FolderListing {
+  FileReach reach = FileReach::unreachable;
+  std::vector<FolderEntry> entries;
+  // True when the share stopped answering (see FileFacts::timedOut).
+  bool timedOut = false;
+
+  bool present() const { return reach == FileReach::present; }
+  static FolderListing of(FileReach reach, bool timedOut = false) {
+    FolderListing listing;
+    listing.reach = reach;
+    listing.timedOut = timedOut;
+    return listing;
   }
 };
 

@@ -27,6 +27,8 @@ class FileFactsBackend {
   virtual FileFacts query(const std::string& path) = 0;
   // True when another program holds the file (see SystemFileFacts).
   virtual bool inUse(const std::string& path) = 0;
+  // The entries of a folder. A path that is no folder answers missing.
+  virtual FolderListing listFolder(const std::string& path) = 0;
   // The machine's mounts as they stand; read without touching any mounted
   // file system, so it never blocks on a dead share.
   virtual std::vector<MountPoint> mounts() = 0;

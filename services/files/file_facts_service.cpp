@@ -102,6 +102,7 @@ struct FileFactsService::Pending {
   bool done = false;
   FileFacts facts;
   bool inUse = false;
+  FolderListing listing;
   Clock::time_point deadline;
 };
 
@@ -154,18 +155,21 @@ bool FileFactsService::isDead(const MountPoint& mount) {
 
 std::shared_ptr<FileFactsService::Pending> FileFactsService::submit(const std::string& path,
                                                                     const MountPoint& mount,
-                                                                    bool inUse) {
+                                                                    Call call) {
   auto pending = std::make_shared<Pending>();
   pending->deadline = Clock::now() + wait_;
   auto& counter = outstanding_[mount.path];
   if (!counter) counter = std::make_shared<std::atomic<int>>(0);
   ++*counter;
-  ++(inUse ? inUseCalls_ : metadataCalls_);
-  WorkerPool::instance().submit([pending, counter, backend = backend_, path, inUse] {
+  ++(call == Call::inUse ? inUseCalls_ : call == Call::listing ? folderReads_ : metadataCalls_);
+  WorkerPool::instance().submit([pending, counter, backend = backend_, path, call] {
     FileFacts facts;
     bool held = false;
-    if (inUse) {
+    FolderListing listing;
+    if (call == Call::inUse) {
       held = backend->inUse(path);
+    } else if (call == Call::listing) {
+      listing = backend->listFolder(path);
     } else {
       facts = backend->query(path);
     }
@@ -173,6 +177,7 @@ std::shared_ptr<FileFactsService::Pending> FileFactsService::submit(const std::s
     std::lock_guard<std::mutex> lock(pending->mutex);
     pending->facts = facts;
     pending->inUse = held;
+    pending->listing = std::move(listing);
     pending->done = true;
     pending->answered.notify_all();
   });
@@ -186,7 +191,7 @@ bool FileFactsService::await(Pending& pending) {
 
 FileFacts FileFactsService::askRemote(const std::string& path, const MountPoint& mount) {
   if (isDead(mount)) return FileFacts::unreachableFacts(true);
-  auto pending = submit(path, mount, false);
+  auto pending = submit(path, mount, Call::facts);
   if (!await(*pending)) {
     markDead(mount);
     return FileFacts::unreachableFacts(true);
@@ -219,12 +224,29 @@ bool FileFactsService::inUse(const std::string& path) {
     return backend_->inUse(path);
   }
   if (isDead(mount)) return false;
-  auto pending = submit(path, mount, true);
+  auto pending = submit(path, mount, Call::inUse);
   if (!await(*pending)) {
     markDead(mount);
     return false;
   }
   return pending->inUse;
+}
+
+FolderListing FileFactsService::listFolder(const std::string& path) {
+  if (path.empty()) return FolderListing::of(FileReach::missing);
+  FileFactsOperation operation(*this);
+  const MountPoint mount = mountOf(path);
+  if (!mount.remote) {
+    ++folderReads_;
+    return backend_->listFolder(path);
+  }
+  if (isDead(mount)) return FolderListing::of(FileReach::unreachable, true);
+  auto pending = submit(path, mount, Call::listing);
+  if (!await(*pending)) {
+    markDead(mount);
+    return FolderListing::of(FileReach::unreachable, true);
+  }
+  return pending->listing;
 }
 
 void FileFactsService::prefetch(const std::vector<std::string>& paths) {
@@ -256,7 +278,7 @@ void FileFactsService::prefetch(const std::vector<std::string>& paths) {
     size_t next = 0;
     while (next < group.size() || !inFlight.empty()) {
       while (inFlight.size() < kCallsInFlightPerMount && next < group.size()) {
-        inFlight.emplace_back(&group[next], submit(group[next], mount, false));
+        inFlight.emplace_back(&group[next], submit(group[next], mount, Call::facts));
         ++next;
       }
       auto [path, pending] = inFlight.front();

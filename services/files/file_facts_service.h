@@ -50,6 +50,11 @@ class FileFactsService {
   // Whether another program holds the file (see SystemFileFacts). A file
   // that can't be reached, or does not answer in time, is not in use.
   bool inUse(const std::string& path);
+  // The entries of a folder, read once, with the same bounded wait on a
+  // share as facts: a folder on a share that does not answer in time is
+  // unreachable (timedOut), and so is its mount for the rest of the
+  // operation. Listings are not kept: each call reads the folder afresh.
+  FolderListing listFolder(const std::string& path);
   // Asks for the facts of many paths at once, so that the questions that
   // follow within the operation are answered at once: on a share several
   // calls run side by side. Paths asked before in the operation are not
@@ -60,9 +65,11 @@ class FileFactsService {
   void endOperation();
   bool inOperation() const { return depth_ > 0; }
 
-  // Calls handed to the backend so far (metadata queries and in-use tests).
+  // Calls handed to the backend so far (metadata queries, in-use tests and
+  // folder reads).
   int64_t metadataCalls() const { return metadataCalls_; }
   int64_t inUseCalls() const { return inUseCalls_; }
+  int64_t folderReads() const { return folderReads_; }
   // The mount a path lies under ("/" when none is longer).
   MountPoint mountOf(const std::string& path);
 
@@ -70,9 +77,11 @@ class FileFactsService {
 
  private:
   struct Pending;
+  // What a call on a worker asks.
+  enum class Call { facts, inUse, listing };
   // The facts of one remote path, asked on a worker with the bounded wait.
   FileFacts askRemote(const std::string& path, const MountPoint& mount);
-  std::shared_ptr<Pending> submit(const std::string& path, const MountPoint& mount, bool inUse);
+  std::shared_ptr<Pending> submit(const std::string& path, const MountPoint& mount, Call call);
   // Waits for a call until its deadline; false when it did not answer.
   static bool await(Pending& pending);
   // True when the mount is found dead in this operation, or a call on it
@@ -93,6 +102,7 @@ class FileFactsService {
   std::unordered_map<std::string, std::shared_ptr<std::atomic<int>>> outstanding_;
   int64_t metadataCalls_ = 0;
   int64_t inUseCalls_ = 0;
+  int64_t folderReads_ = 0;
 };
 
 // Begins an operation of a service at construction and ends it at

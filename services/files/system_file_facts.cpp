@@ -112,6 +112,37 @@ FileFacts SystemFileFacts::query(const std::string& path) {
   return facts;
 }
 
+FolderListing SystemFileFacts::listFolder(const std::string& path) {
+  if (path.empty()) return FolderListing::of(FileReach::missing);
+  DIR* folder = opendir(path.c_str());
+  if (folder == nullptr) return FolderListing::of(reachOfError(errno));
+  FolderListing listing = FolderListing::of(FileReach::present);
+  const int descriptor = dirfd(folder);
+  errno = 0;
+  while (const dirent* entry = readdir(folder)) {
+    const std::string name = entry->d_name;
+    if (name == "." || name == "..") continue;
+    FolderEntry item{name};
+    unsigned char type = entry->d_type;
+    if (type == DT_UNKNOWN || type == DT_LNK) {
+      struct stat st {};
+      type = fstatat(descriptor, entry->d_name, &st, 0) != 0 ? DT_UNKNOWN
+             : S_ISREG(st.st_mode)                           ? DT_REG
+             : S_ISDIR(st.st_mode)                           ? DT_DIR
+                                                             : DT_UNKNOWN;
+    }
+    item.isFile = type == DT_REG;
+    item.isFolder = type == DT_DIR;
+    listing.entries.push_back(std::move(item));
+    errno = 0;
+  }
+  // A read that broke off half-way (a share that failed) is the folder's
+  // failure: nothing of it is used.
+  if (errno != 0) listing = FolderListing::of(reachOfError(errno));
+  closedir(folder);
+  return listing;
+}
+
 bool SystemFileFacts::hasOfficeLockFile(const std::string& path) {
   const std::string folder = folderOf(path) + "/";
   const std::string name = nameOf(path);

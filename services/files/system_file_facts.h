@@ -11,6 +11,8 @@
 //     machine (/proc/locks) or, on a share that forwards locks, of another
 //     one (a test lock on the file);
 //   - a process of this machine has it open for writing (/proc/PID/fdinfo).
+// listFolder: one read of the folder; an entry whose type the file system
+//   does not give, or a symbolic link, is asked with one fstatat.
 // mounts: /proc/self/mountinfo.
 
 #include "services/files/file_facts_backend.h"
@@ -21,6 +23,7 @@ class SystemFileFacts : public FileFactsBackend {
  public:
   FileFacts query(const std::string& path) override;
   bool inUse(const std::string& path) override;
+  FolderListing listFolder(const std::string& path) override;
   std::vector<MountPoint> mounts() override;
 
   // The three tests of inUse, each on its own.

@@ -48,6 +48,7 @@ void docQuillboxCategoryClass::loadCategory(bool& loadDocuments, bool& result) {
   // The files are asked for all at once (side by side on a share), then each
   // document reads its own answer.
   FileFactsOperation fileQueries;
+  proc.step([&] { synchroniseFolder(); });
   proc.step([&] {
     DatabaseReference& db = database();
     Recordset rs(db, keyedSql(kSelectCategoryDocuments, categoryID_), adLockReadOnly);
@@ -93,7 +94,12 @@ void docQuillboxCategoryClass::saveCategory() {
   };
   proc.step([&] {
     DatabaseReference& db = database();
-    if (!db.isConnected()) return;
+    // Nothing may seem saved that was not: the editor stays open.
+    if (!db.isConnected())
+      throw RuntimeError(err::kStoreError,
+                         "The category '" + categoryName_ +
+                             "' can't be saved: the client database is not connected.",
+                         "docQuillboxCategoryClass");
     if (categoryID_ < 0) {
       Recordset rs(db, keyedSql(kSelectCategory, -1), adLockOptimistic);
       db.addNewRecord(rs.handle());

@@ -7,6 +7,10 @@
 // documents, 3 the category that lists shortcuts to them. Types 2 and 3 both
 // hold merge documents.
 //
+// The synchronised folder (synchFolder): when the documents are loaded, each
+// file directly in that folder that the category does not link yet gets a
+// link first (see category_folder_sync.cpp). Sub-folders are not walked.
+//
 // Loading the documents fires the progress events: start with the number of
 // document rows, one step per document row (whether it loaded or not, so the
 // bar ends full), and end once the walk is over. A row that can't be read
@@ -46,14 +50,16 @@ class docQuillboxCategoryClass {
   int32_t categorySpecialType() const { return categorySpecialType_; }
 
   // Reads the row of categoryID into the fields. With loadDocuments True
-  // also builds the list of its document links (in the store's order, each
-  // with its file's facts), firing the progress events. The earlier list is
+  // also links the new files of the synchronised folder, then builds the
+  // list of its document links (in the store's order, each with its file's
+  // facts), firing the progress events. The earlier list is
   // dropped in every case, so without loadDocuments the walk is empty.
   // result: True when the row was found; with no row the fields stay.
   void loadCategory(bool& loadDocuments, bool& result);
   // Writes the fields: a categoryID below 0 adds a new row (an ordinary
   // category) and takes its new key; otherwise the row of categoryID is
-  // updated. An update of a key with no row is a failure (3021).
+  // updated. An update of a key with no row is a failure (3021), and so is
+  // a save while the store is not connected (3001).
   void saveCategory();
   // Deletes the category with its document links. With includeSubCategories
   // its sub-categories at every depth go too, with their links; without, its
@@ -76,7 +82,8 @@ class docQuillboxCategoryClass {
 
  private:
   void readRow(DatabaseReference& db, RecordsetHandle handle);
-  void loadDocuments(DatabaseReference& db);
+  // Links the files of synchFolder that the category does not link yet.
+  void synchroniseFolder();
 
   int32_t categoryID_ = -1;
   int32_t companyIDNum_ = -1;

@@ -6,6 +6,7 @@
 #include "services/controls/tree_view.h"
 #include "services/errors/procedure.h"
 #include "services/quillbox/client_category_rows.h"
+#include "services/quillbox/client_main_category.h"
 #include "services/quillbox/library_store.h"
 
 namespace qb {
@@ -33,6 +34,9 @@ void DocQuillboxClientCategoriesClass::populateCategories() {
     DatabaseReference& db = database();
     if (!db.isConnected()) return;
     rows = readClientCategories(db, companyIDNum_, contactIDNum_);
+    // A client always has its main category: one that has none gets it now.
+    if (ensureMainCategory(db, companyIDNum_, contactIDNum_, rows))
+      rows = readClientCategories(db, companyIDNum_, contactIDNum_);
   });
   if (rows.empty()) return;
 

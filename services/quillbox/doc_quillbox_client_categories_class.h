@@ -31,8 +31,9 @@ class DocQuillboxClientCategoriesClass {
 
   // Empties the tree.
   void clearCategories();
-  // Fills the tree afresh for the client set (see above). With no client,
-  // or a client with no categories, the tree stays empty and nothing is
+  // Fills the tree afresh for the client set (see above). A client with no
+  // main category gets one first (client_main_category.h). With no client,
+  // or an id that names no client, the tree stays empty and nothing is
   // selected. Without a tree set, a failure (91).
   void populateCategories();
 

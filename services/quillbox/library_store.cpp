@@ -4,6 +4,7 @@
 
 #include "services/host/locale_reference.h"
 #include "services/host/module_state.h"
+#include "services/host/working_folder.h"
 #include "services/quillbox/doc_quillbox_references_class.h"
 #include "services/runtime/conversions.h"
 #include "services/runtime/dates.h"
@@ -23,6 +24,13 @@ LocaleReference* locale() {
   const auto& references = moduleState().references;
   if (references && references->localeReference()) return references->localeReference().get();
   return moduleState().localeReference.get();
+}
+
+WorkingFolderReference* workingFolder() {
+  const auto& references = moduleState().references;
+  if (references && references->workingFolderReference())
+    return references->workingFolderReference().get();
+  return moduleState().workingFolderReference.get();
 }
 
 std::string keyedSql(const std::string& text, int32_t key) {

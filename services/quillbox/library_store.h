@@ -13,6 +13,7 @@
 namespace qb {
 
 class LocaleReference;
+class WorkingFolderReference;
 
 namespace quillboxLibrary {
 
@@ -22,6 +23,9 @@ DatabaseReference& database();
 // The locale kept by docQuillboxReferencesClass, else the module's; null
 // when there is none.
 LocaleReference* locale();
+// The working folder kept by docQuillboxReferencesClass, else the module's;
+// null when there is none.
+WorkingFolderReference* workingFolder();
 
 // "<text><key>;": a statement on one key, as the store's texts are built.
 std::string keyedSql(const std::string& text, int32_t key);

@@ -12,7 +12,7 @@ void generalUtilitiesClass::setErrorClass(const std::shared_ptr<ErrorObject>& er
 }
 
 void generalUtilitiesClass::prepareTreeView(TreeView& tree) const {
-  tree.setOLEDragMode(0);
+  tree.setOLEDragMode(1);
   tree.setOLEDropMode(1);
   tree.setRowHeight(255);
   tree.setScrollTop(0);
@@ -34,20 +34,35 @@ void generalUtilitiesClass::setListViewListMode(ListView& list) const { list.set
 int16_t generalUtilitiesClass::comboAutoComplete(ComboBox& combo, int16_t keyAscii) const {
   constexpr int16_t kBackspace = 8;
   if (keyAscii < 32 && keyAscii != kBackspace) return keyAscii;
-  std::string typed = Left(combo.Text(), combo.SelStart());
+  // An entry's indent (leading blanks) is no part of what is typed.
+  std::string typed = LTrim(Left(combo.Text(), combo.SelStart()));
   if (keyAscii == kBackspace) {
     if (!typed.empty()) typed = Left(typed, Len(typed) - 1);
   } else {
     typed += static_cast<char>(keyAscii);
   }
   for (int32_t i = 0; i < combo.ListCount(); ++i) {
-    if (!equalsText(Left(combo.List(i), Len(typed)), typed)) continue;
+    const std::string entry = combo.List(i);
+    const std::string bare = LTrim(entry);
+    if (!equalsText(Left(bare, Len(typed)), typed)) continue;
+    const int32_t indent = Len(entry) - Len(bare);
     combo.setListIndex(i);
-    combo.setSelStart(Len(typed));
-    combo.setSelLength(Len(combo.Text()) - Len(typed));
+    combo.setSelStart(indent + Len(typed));
+    combo.setSelLength(Len(combo.Text()) - indent - Len(typed));
     break;
   }
   return 0;
+}
+
+bool generalUtilitiesClass::selectComboItemByData(ComboBox& combo, int32_t itemData,
+                                                  bool clearWhenMissing) const {
+  for (int32_t i = 0; i < combo.ListCount(); ++i) {
+    if (combo.ItemData(i) != itemData) continue;
+    combo.setListIndex(i);
+    return true;
+  }
+  if (clearWhenMissing) combo.setListIndex(-1);
+  return false;
 }
 
 }  // namespace qb

@@ -17,11 +17,6 @@
 namespace qb::test {
 namespace {
 
-class HostForm : public OwnerForm {
- public:
-  int64_t hWnd() const override { return 4242; }
-};
-
 class DocumentCommandsTest : public QuillboxTest {
  protected:
   DocumentCommandsTest() {

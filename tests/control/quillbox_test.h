@@ -23,6 +23,12 @@
 
 namespace qb::test {
 
+// The host's form, owner of the component's dialogs and messages.
+class HostForm : public OwnerForm {
+ public:
+  int64_t hWnd() const override { return 4242; }
+};
+
 class QuillboxTest : public ::testing::Test {
  protected:
   QuillboxTest() {

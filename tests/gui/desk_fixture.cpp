@@ -10,8 +10,11 @@
 #include <QWindow>
 #include <cstdlib>
 
+#include "app/desk/desktop_services.h"
+#include "gui/form_dialogs.h"
 #include "gui/theme_icons.h"
 #include "sample/sample_firm.h"
+#include "services/controls/form.h"
 
 // The desktop's font library keeps its caches for the life of the process,
 // and so does the D-Bus library its connection on an X display; the leak
@@ -123,6 +126,13 @@ void DeskTest::clickCategory(const std::string& text) {
   ASSERT_NE(item, nullptr);
   tree.scrollToItem(item);
   click(*tree.viewport(), tree.visualItemRect(item).center());
+}
+
+void DeskTest::whenDialogShows(std::function<void(QDialog&, Form&)> act) {
+  window_->desktop().formDialogs().setShownHook([act](QDialog& dialog, Form& form) {
+    act(dialog, form);
+    if (form.Visible()) form.userClose();
+  });
 }
 
 void DeskTest::screenshot(const std::string& name) {

@@ -6,7 +6,9 @@
 
 #include <gtest/gtest.h>
 
+#include <QDialog>
 #include <QWidget>
+#include <functional>
 #include <memory>
 #include <string>
 
@@ -15,6 +17,7 @@
 #include "gui/category_tree_widget.h"
 #include "gui/document_list_widget.h"
 #include "gui/user_control_host.h"
+#include "services/controls/form.h"
 #include "tests/support/temp_folder.h"
 
 namespace qb::test {
@@ -51,6 +54,9 @@ class DeskTest : public ::testing::Test {
   Node& nodeNamed(const std::string& text);
   // Saves the window under $QB_SCREENSHOT_DIR (or the temporary folder).
   void screenshot(const std::string& name);
+  // Runs act inside each modal dialog of a form once it is on screen, then
+  // closes what is still open.
+  void whenDialogShows(std::function<void(QDialog&, Form&)> act);
 
   TempFolder folder_;
   std::unique_ptr<desk::ClientWindow> window_;

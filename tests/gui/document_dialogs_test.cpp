@@ -36,69 +36,11 @@
 #include "services/quillbox/doc_quillbox_document_class.h"
 #include "services/shell/common_dialog.h"
 #include "tests/gui/desk_fixture.h"
+#include "tests/gui/dialog_helpers.h"
 
 namespace qb::test {
 
 namespace {
-
-// Saves a dialog's picture beside the window's screenshots.
-void saveDialog(QWidget& dialog, const std::string& name, const TempFolder& fallback) {
-  const char* dir = std::getenv("QB_SCREENSHOT_DIR");
-  const QString path = QString::fromStdString((dir ? std::string(dir) : fallback.path().string()) +
-                                              "/" + name + ".png");
-  QDir().mkpath(QFileInfo(path).absolutePath());
-  settle();
-  EXPECT_TRUE(dialog.grab().save(path, "PNG")) << path.toStdString();
-}
-
-// Every caption of the dialog that shows is shown whole: no label, button,
-// check or option box is narrower (or a wrapped label lower) than its text.
-void expectNoTextCut(QWidget& dialog) {
-  for (QWidget* widget : dialog.findChildren<QWidget*>()) {
-    if (!widget->isVisibleTo(&dialog)) continue;
-    const std::string name = widget->objectName().toStdString();
-    if (auto* label = qobject_cast<QLabel*>(widget); label && !label->text().isEmpty()) {
-      if (label->wordWrap()) {
-        EXPECT_GE(label->height(), label->heightForWidth(label->width())) << name;
-      } else {
-        EXPECT_GE(label->width(), label->minimumSizeHint().width()) << name;
-      }
-    } else if (qobject_cast<QPushButton*>(widget) || qobject_cast<QCheckBox*>(widget) ||
-               qobject_cast<QRadioButton*>(widget)) {
-      EXPECT_GE(widget->width(), widget->minimumSizeHint().width()) << name;
-    }
-  }
-}
-
-template <class W>
-W& widgetNamed(QWidget& dialog, const char* name) {
-  W* widget = dialog.findChild<W*>(name);
-  if (widget == nullptr) {
-    ADD_FAILURE() << "no widget " << name;
-    throw std::runtime_error(name);
-  }
-  return *widget;
-}
-
-// Types text into a widget, key by key, as the keyboard does.
-void type(QWidget& target, const QString& text) {
-  for (QChar c : text) {
-    const int key = c == '\r' ? static_cast<int>(Qt::Key_Return) : c.toUpper().unicode();
-    QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier, QString(c));
-    QApplication::sendEvent(&target, &press);
-    QKeyEvent release(QEvent::KeyRelease, key, Qt::NoModifier, QString(c));
-    QApplication::sendEvent(&target, &release);
-  }
-  settle();
-}
-
-void press(QWidget& target, int key) {
-  QKeyEvent down(QEvent::KeyPress, key, Qt::NoModifier);
-  QApplication::sendEvent(&target, &down);
-  QKeyEvent up(QEvent::KeyRelease, key, Qt::NoModifier);
-  QApplication::sendEvent(&target, &up);
-  settle();
-}
 
 std::shared_ptr<docQuillboxDocumentClass> loadedDocument(int32_t id) {
   auto document = std::make_shared<docQuillboxDocumentClass>();
@@ -116,13 +58,6 @@ class DocumentDialogsTest : public DeskTest {
   void SetUp() override {
     DeskTest::SetUp();
     window_->desktop().shell().setUnattended(&launched_);
-  }
-  // Runs act inside the next modal dialog, then closes what is still open.
-  void whenDialogShows(std::function<void(QDialog&, Form&)> act) {
-    window_->desktop().formDialogs().setShownHook([act](QDialog& dialog, Form& form) {
-      act(dialog, form);
-      if (form.Visible()) form.userClose();
-    });
   }
   std::ostringstream launched_;
 };

@@ -9,6 +9,7 @@
 #include <atomic>
 #include <chrono>
 #include <condition_variable>
+#include <map>
 #include <mutex>
 #include <set>
 #include <string>
@@ -25,6 +26,8 @@ class FakeFileSystem : public FileFactsBackend {
   std::set<std::string> folders;
   std::set<std::string> missing;
   std::set<std::string> held;  // in use
+  // The entries of folders; a folder of `folders` not listed here is empty.
+  std::map<std::string, std::vector<FolderEntry>> listings;
   std::chrono::microseconds delay{0};
 
   std::atomic<int> queries{0};
@@ -68,6 +71,18 @@ class FakeFileSystem : public FileFactsBackend {
     bool result = held.count(path) > 0;
     leave();
     return result;
+  }
+  FolderListing listFolder(const std::string& path) override {
+    ++queries;
+    enter(path);
+    FolderListing listing = FolderListing::of(FileReach::missing);
+    auto listed = listings.find(path);
+    if (listed != listings.end() || folders.count(path)) {
+      listing = FolderListing::of(FileReach::present);
+      if (listed != listings.end()) listing.entries = listed->second;
+    }
+    leave();
+    return listing;
   }
   std::vector<MountPoint> mounts() override { return mountList; }
 

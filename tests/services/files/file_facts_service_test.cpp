@@ -7,9 +7,13 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
+#include <map>
+
 #include "services/files/system_file_facts.h"
 #include "services/util/file_utilities_class.h"
 #include "tests/services/files/fake_file_system.h"
+#include "tests/support/temp_folder.h"
 
 namespace qb {
 namespace {
@@ -119,6 +123,49 @@ TEST_F(FileFactsServiceTest, AListIsFetchedSideBySideOnceAndAHangingShareCostsOn
   EXPECT_LE(files->queries, static_cast<int>(FileFactsService::kCallsInFlightPerMount) + 1);
   EXPECT_TRUE(service->facts("/data/local.pdf").present());
   for (int i = 0; i < 40; ++i) EXPECT_EQ(service->facts(paths[i]).reach, FileReach::unreachable);
+}
+
+TEST_F(FileFactsServiceTest, AFolderIsReadOnceAndAHangingShareIsGivenUpOnAfterTheWait) {
+  files->listings["/share/clients"] = {{"a.pdf", true, false}, {"2024", false, true}};
+  FolderListing listing = service->listFolder("/share/clients");
+  ASSERT_TRUE(listing.present());
+  ASSERT_EQ(listing.entries.size(), 2u);
+  EXPECT_TRUE(listing.entries[0].isFile);
+  EXPECT_TRUE(listing.entries[1].isFolder);
+  EXPECT_EQ(service->listFolder("/data/a.pdf").reach, FileReach::missing);
+  EXPECT_EQ(service->folderReads(), 2);
+
+  files->hangUnder("/share/");
+  {
+    FileFactsOperation sync;
+    const auto began = std::chrono::steady_clock::now();
+    FolderListing hung = service->listFolder("/share/clients");
+    EXPECT_EQ(hung.reach, FileReach::unreachable);
+    EXPECT_TRUE(hung.timedOut);
+    EXPECT_LT(std::chrono::steady_clock::now() - began, 5s);
+    // The mount is dead for the rest of the operation: its files too.
+    EXPECT_TRUE(service->facts("/share/clients/a.pdf").timedOut);
+    EXPECT_EQ(files->queries, 3);
+  }
+}
+
+TEST(SystemFileFacts, AFolderListsItsFilesAndFoldersAndFollowsLinks) {
+  test::TempFolder folder;
+  folder.writeFile("a.txt", "a");
+  folder.writeFile("sub/b.txt", "b");
+  std::filesystem::create_symlink(folder.file("a.txt"), folder.file("link.txt"));
+  std::filesystem::create_symlink(folder.file("gone.txt"), folder.file("dangling.txt"));
+  FolderListing listing = SystemFileFacts().listFolder(folder.path().string());
+  ASSERT_TRUE(listing.present());
+  std::map<std::string, std::string> kinds;
+  for (const FolderEntry& entry : listing.entries)
+    kinds[entry.name] = entry.isFile ? "file" : entry.isFolder ? "folder" : "other";
+  EXPECT_EQ(
+      kinds,
+      (std::map<std::string, std::string>{
+          {"a.txt", "file"}, {"dangling.txt", "other"}, {"link.txt", "file"}, {"sub", "folder"}}));
+  EXPECT_EQ(SystemFileFacts().listFolder(folder.file("none")).reach, FileReach::missing);
+  EXPECT_EQ(SystemFileFacts().listFolder(folder.file("a.txt")).reach, FileReach::missing);
 }
 
 TEST(FileFactsMounts, APathBelongsToItsLongestMountPointComponentWise) {
