@@ -34,9 +34,9 @@ constexpr ProvinceLabels kProvinceLabels[] = {
 };
 
 // "{DATE:THIS-01-31}" and the like: the date as "mmm d, yyyy".
-std::string sampleDate(const std::string& spec, int thisYear) {
-  const std::vector<std::string> parts = Split(spec, "-");
-  if (parts.size() != 3) throw RuntimeError(err::kInvalidCall, "Bad sample date " + spec);
+std::string sampleDate(const std::string& pattern, int thisYear) {
+  const std::vector<std::string> parts = Split(pattern, "-");
+  if (parts.size() != 3) throw RuntimeError(err::kInvalidCall, "Bad sample date " + pattern);
   const int year = parts[0] == "THIS"   ? thisYear
                    : parts[0] == "LAST" ? thisYear - 1
                                         : std::atoi(parts[0].c_str());
