@@ -120,7 +120,9 @@ TEST_F(MergePasses, WhatNoSweepReplacedIsRemoved) {
   fields.replaceUnfoundMergeFieldsWithBlanks(lone);
   EXPECT_EQ(lone, "'bb 'b x");
   fields.setTemplateText(
-      "{\\rtf1\\ansi \\b\\'abCompany Na\xf7e\\'bb\\b0\\p(:r \\'b\\'abCompany Na\xf7e\\'b "
+      "{\\rtf1\\ansi \\b\\'abCompany Na\xf7"
+      "e\\'bb\\b0\\p(:r \\'b\\'abCompany Na\xf7"
+      "e\\'b "
       "Datm, ddb}");
   EXPECT_EQ(fields.parseRTBComment(), fields.parseLiterally());
   // A lone close bracket is just text.
