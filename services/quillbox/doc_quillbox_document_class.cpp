@@ -1,6 +1,7 @@
 #include "services/quillbox/doc_quillbox_document_class.h"
 
 #include "services/errors/procedure.h"
+#include "services/host/clock.h"
 #include "services/host/locale_reference.h"
 #include "services/quillbox/file_icons.h"
 #include "services/quillbox/library_store.h"
@@ -99,7 +100,9 @@ void docQuillboxDocumentClass::addDocument(std::string& path, int32_t& category)
     std::string fullPath = files.normalizeFilePath(path);
     std::string fileName = files.getFileNameFromPath(fullPath);
     std::string host = files.getComputerName();
-    double added = Now();
+    // The clock service, so a host that fixes today (the tool's --today)
+    // stamps that date.
+    double added = hostNow();
     LocaleReference* userLocale = locale();
     int32_t user = userLocale != nullptr ? userLocale->getCurrentUserID() : -1;
 

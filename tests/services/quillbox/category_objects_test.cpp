@@ -4,6 +4,8 @@
 
 #include "services/controls/combo_box.h"
 #include "services/controls/tree_view.h"
+#include "services/host/clock.h"
+#include "services/host/module_state.h"
 #include "services/quillbox/doc_quillbox_category_class.h"
 #include "services/quillbox/doc_quillbox_category_list_class.h"
 #include "services/quillbox/doc_quillbox_client_categories_class.h"
@@ -174,10 +176,14 @@ TEST_F(CategoryObjects, LoadCategoryCountsProgressAndWalksDocumentsWithIcons) {
 
 TEST_F(CategoryObjects, DocumentAddLoadSaveAndMergeType) {
   db.locale().userID = 7;
+  // The link is stamped with the clock service's time, not the machine's.
+  const double stamp = DateSerial(2026, 11, 23) + TimeSerial(9, 30, 0);
+  moduleState().clock = std::make_shared<FixedClock>(stamp);
   std::string path = files.writeFile("Engagement Letter.odt", "text");
   docQuillboxDocumentClass document;
   int32_t category = 4;
   document.addDocument(path, category);
+  moduleState().clock.reset();
   ASSERT_GE(document.documentID(), 0);
   std::string key = "DocumentID = " + std::to_string(document.documentID());
 
@@ -200,7 +206,7 @@ TEST_F(CategoryObjects, DocumentAddLoadSaveAndMergeType) {
   EXPECT_EQ(loaded.addedByUserID(), 7);
   EXPECT_FALSE(loaded.hostComputerName().empty());
   ASSERT_TRUE(loaded.dateAdded().isDate());
-  EXPECT_NEAR(loaded.dateAdded().rawDouble(), Now(), 2.0 / 1440);
+  EXPECT_NEAR(loaded.dateAdded().rawDouble(), stamp, 0.5 / 86400);
   EXPECT_EQ(loaded.smallIconPicture(), Picture::themeIcon("x-office-document", 16));
 
   // Renamed and pointed at a file that is not there: saved, and the icon warns.
