@@ -16,15 +16,14 @@
 #include <memory>
 #include <string>
 
+#include "bench/bench_services.h"
 #include "bench/slow_share.h"
 #include "links/link_check.h"
 #include "links/link_reader.h"
 #include "links/locate.h"
 #include "links/relink.h"
 #include "sample/sample_firm.h"
-#include "services/errors/console_error_object.h"
 #include "services/files/file_facts_service.h"
-#include "services/host/locale_reference.h"
 #include "services/host/module_state.h"
 #include "services/store/sqlite_database.h"
 
@@ -74,12 +73,7 @@ struct LinkFirm {
     fs::remove_all(folder, ignored);
   }
   // Makes this firm's store the module's.
-  void install() {
-    qb::resetModuleState();
-    qb::moduleState().databaseReference = store;
-    qb::moduleState().errorClass = std::make_shared<qb::ConsoleErrorObject>();
-    qb::moduleState().localeReference = std::make_shared<qb::FixedLocale>();
-  }
+  void install() { qb::bench::installServices(store); }
 
   fs::path folder;
   std::shared_ptr<qb::SqliteDatabase> store;

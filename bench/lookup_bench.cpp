@@ -11,11 +11,9 @@
 #include <memory>
 #include <string>
 
+#include "bench/bench_services.h"
 #include "lookup/cls_lookup_fields.h"
 #include "sample/sample_firm.h"
-#include "services/errors/console_error_object.h"
-#include "services/host/clock.h"
-#include "services/host/locale_reference.h"
 #include "services/host/module_state.h"
 #include "services/runtime/conversions.h"
 #include "services/runtime/dates.h"
@@ -38,11 +36,7 @@ class GeneratedFirm {
   void install() {
     store = std::make_shared<qb::SqliteDatabase>();
     store->open(path);
-    qb::resetModuleState();
-    qb::moduleState().databaseReference = store;
-    qb::moduleState().errorClass = std::make_shared<qb::ConsoleErrorObject>();
-    qb::moduleState().localeReference = std::make_shared<qb::FixedLocale>();
-    qb::moduleState().clock = std::make_shared<qb::FixedClock>(qb::DateSerial(2026, 11, 23));
+    qb::bench::installServices(store);
   }
   void uninstall() {
     qb::resetModuleState();
